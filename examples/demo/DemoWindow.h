@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QStringList>
+
+#include <functional>
+
+class QLabel;
+class QMenu;
+
+// The demo tool's main window. Modules add menu entries, status text and
+// windows for the --screenshots mode.
+class DemoWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DemoWindow(const QStringList &arguments, QWidget *parent = nullptr);
+
+    QMenu *fileMenu() const { return m_fileMenu; }
+    QMenu *toolsMenu() const { return m_toolsMenu; }
+    QMenu *helpMenu() const { return m_helpMenu; }
+    const QStringList &arguments() const { return m_arguments; }
+
+    // Shows a line in the main window's status bar (modules may keep their own labels).
+    void showStatus(const QString &text);
+    // Adds a page of the central log view: what happened, for the user to see.
+    void log(const QString &text);
+
+    // A window that --screenshots renders to "<name>.png". The factory creates it
+    // (with no parent) and may fill it with sample data; the screenshot mode deletes it.
+    void addScreenshot(const QString &name, std::function<QWidget *()> factory);
+    // Renders the main window and every registered window into `dir`; returns false
+    // if a file could not be written.
+    bool writeScreenshots(const QString &dir);
+
+    // Hooks run before the window closes (for saving state).
+    void onClose(std::function<void()> hook) { m_closeHooks.append(std::move(hook)); }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QStringList m_arguments;
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_toolsMenu = nullptr;
+    QMenu *m_helpMenu = nullptr;
+    class QPlainTextEdit *m_log = nullptr;
+    QList<QPair<QString, std::function<QWidget *()>>> m_screenshots;
+    QList<std::function<void()>> m_closeHooks;
+};

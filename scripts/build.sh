@@ -1,0 +1,9 @@
+#!/bin/bash
+# Configures and builds into ${BUILD_DIR:-build}. Extra arguments go to cmake.
+set -euo pipefail
+src="$(cd "$(dirname "$0")/.." && pwd)"
+build="${BUILD_DIR:-$src/build}"
+launcher=()
+command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+cmake -S "$src" -B "$build" "${launcher[@]}" "$@"
+cmake --build "$build" -j2

@@ -1,0 +1,16 @@
+#!/bin/bash
+# Installs what building, testing and running CommonGUI needs on Debian 12.
+set -euo pipefail
+packages=(build-essential cmake pkg-config ccache
+          qtbase5-dev qttools5-dev qttools5-dev-tools qhelpgenerator-qt5 libqt5sql5-sqlite
+          libqt5svg5-dev python3 binutils xxd xvfb xauth)
+missing=()
+for p in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    sudo=""
+    [ "$(id -u)" -eq 0 ] || sudo="sudo"
+    $sudo apt-get update
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y --no-install-recommends "${missing[@]}"
+fi

@@ -1,0 +1,196 @@
+#include "DebugCrashHandler.h"
+
+#include "FunctionTrace_p.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+DebugCrashHandler *s_currentHandler = nullptr;
+QString s_sessionStamp;
+
+QString applicationDirectoryName()
+{
+    return QCoreApplication::applicationName().remove(QLatin1Char(' '));
+}
+}
+
+DebugCrashHandler::DebugCrashHandler(QObject *parent)
+    : QObject(parent)
+{
+    s_currentHandler = this;
+    s_sessionStamp = QDateTime::currentDateTime().toString(QStringLiteral("yyMMdd_hhmmss"));
+}
+
+DebugCrashHandler::~DebugCrashHandler() = default;
+
+void DebugCrashHandler::setDebugHandlingType(DebugHandlingType type)
+{
+    m_type = type;
+    if (type == LogFile) {
+        initDebugLogfile();
+        m_type = LogFile | StandardHandling;
+    } else if (type == InstrumentFunctions) {
+        FunctionTrace::traceAllowed = true;
+    }
+}
+
+void DebugCrashHandler::updateLogType(DebugHandlingType type)
+{
+    m_type |= type;
+}
+
+void DebugCrashHandler::initDebugLogfile()
+{
+    const QString dir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+            + QStringLiteral("/korvil/%1/").arg(applicationDirectoryName());
+    QDir().mkpath(dir);
+    const QString path = dir + QStringLiteral("%1_DebugLog.dbo").arg(s_sessionStamp);
+    m_logFile = new QFile(path);
+    m_logFile->open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text);
+    m_logStream = new QTextStream(m_logFile);
+}
+
+void DebugCrashHandler::closeDebugLogfile()
+{
+    if (m_logFile)
+        m_logFile->close();
+}
+
+void DebugCrashHandler::removeDebugLogfile()
+{
+    if (m_logFile)
+        m_logFile->remove();
+    if (m_logStream) {
+        delete m_logStream;
+        m_logStream = nullptr;
+    }
+}
+
+QString DebugCrashHandler::debugLogFileName() const
+{
+    return m_logFile ? m_logFile->fileName() : QString();
+}
+
+void DebugCrashHandler::handleDebugOut(QtMsgType type, const QMessageLogContext &context,
+                                       const QString &msg)
+{
+    if (m_type & LogFile) {
+        logDebugOutput(type, msg);
+        // Every message stands twice in the log; tools that parse it expect that.
+        if (m_type & LogFile)
+            logDebugOutput(type, msg);
+    }
+    if (m_type & PrintOutput)
+        printDebugOutput(type, context, msg);
+    if (m_type & PrintDetailed)
+        printDebugOutputDetailed(type, context, msg);
+    // Looked for, but routed like any other message.
+    (void)msg.contains(QLatin1String("Timers cannot be stopped"));
+}
+
+void DebugCrashHandler::logDebugOutput(QtMsgType, const QString &msg)
+{
+    if (!m_logFile || !m_logFile->isOpen())
+        return;
+    QTextStream out(m_logFile);
+    out.setCodec("UTF-8");
+    out << QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd\thh:mm:ss:zzz"))
+        << "\t\t" << msg << "\n";
+}
+
+namespace {
+void printTimePrefix()
+{
+    const QByteArray time =
+            QDateTime::currentDateTime().toString(QStringLiteral("hh:mm:ss.zzz")).toLatin1();
+    fprintf(stderr, "Time: %s: ", time.constData());
+}
+}
+
+void DebugCrashHandler::printDebugOutput(QtMsgType, const QMessageLogContext &,
+                                         const QString &msg)
+{
+    const QByteArray text = msg.toLocal8Bit();
+    printTimePrefix();
+    fprintf(stderr, "%s\n", text.constData());
+    fflush(stderr);
+}
+
+void DebugCrashHandler::printDebugOutputDetailed(QtMsgType, const QMessageLogContext &context,
+                                                 const QString &msg)
+{
+    const QByteArray text = msg.toLocal8Bit();
+    printTimePrefix();
+    // The label is the same for every message type.
+    fprintf(stderr, "QtDebugMsg: %s (%s:%u, %s)\n", text.constData(),
+            context.file ? context.file : "", unsigned(context.line),
+            context.function ? context.function : "");
+    fflush(stderr);
+}
+
+void DebugCrashHandler::finish()
+{
+    closeDebugLogfile();
+    if (!(m_type & LogFile))
+        removeDebugLogfile();
+    deInitFunctiontrace();
+    qDebug() << "void DebugCrashHandler::finish()" << "Line:" << __LINE__;
+}
+
+void DebugCrashHandler::initFunctionTrace()
+{
+    using namespace FunctionTrace;
+    const QString name = applicationDirectoryName();
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QDir().mkpath(documents + QStringLiteral("/korvil/%1/").arg(name));
+    const QString path = documents + QStringLiteral("/korvil//%1/").arg(name)
+            + QStringLiteral("functionsLog_%1.efl").arg(traceFileCounter);
+    ++traceFileCounter;
+    traceFile = fopen(path.toLatin1().constData(), "w");
+    traceFileOpen = traceFile != nullptr;
+    traceFree = 1;
+}
+
+void DebugCrashHandler::deInitFunctiontrace()
+{
+    using namespace FunctionTrace;
+    // The pointer is kept after closing; a closed file counts as absent, so a
+    // second close and hooks running after it are harmless.
+    if (traceFile && traceFileOpen) {
+        traceFree = 0;
+        fflush(traceFile);
+        fclose(traceFile);
+        traceFileOpen = false;
+    }
+}
+
+void DebugCrashHandler::setInstrumentFunctions(bool on)
+{
+    using namespace FunctionTrace;
+    if (!traceAllowed)
+        return;
+    if (on) {
+        initFunctionTrace();
+        traceEnabled = true;
+    } else {
+        deInitFunctiontrace();
+        traceEnabled = false;
+    }
+}
+
+void messageHandler(QtMsgType type, const QMessageLogContext &context, const QString &msg)
+{
+    s_currentHandler->handleDebugOut(type, context, msg);
+}
+
+void noMessageOutput(QtMsgType, const QMessageLogContext &, const QString &)
+{
+}

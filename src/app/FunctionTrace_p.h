@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdio>
+
+// Process-wide trace state shared by the hooks and DebugCrashHandler.
+namespace FunctionTrace {
+extern FILE *traceFile;
+extern int traceFree;
+extern bool traceEnabled;
+extern bool traceAllowed;
+extern int traceFileCounter;
+// False once traceFile was closed; the pointer itself is kept.
+extern bool traceFileOpen;
+}
