@@ -3,6 +3,7 @@
 #include "QHexEditPrivate.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
@@ -18,7 +19,14 @@ QHexEdit::QHexEdit(QWidget *parent)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // Platforms without a fixed-font setting hand out the proportional default.
+    if (!QFontInfo(font).fixedPitch()) {
+        font.setFamily(QStringLiteral("monospace"));
+        font.setStyleHint(QFont::TypeWriter);
+        font.setFixedPitch(true);
+    }
+    setFont(font);
     d->updateLayout();
 }
 
@@ -31,6 +39,10 @@ QByteArray QHexEdit::data() const
 
 void QHexEdit::setData(const QByteArray &data)
 {
+    // Unless the host fixed the count, every byte handed over is shown, also
+    // beyond the buffer's default of 0xffffff (a 16 MiB image has one more).
+    if (!d->m_bytesEnabledSet && data.size() > d->m_buffer.bytesEnabled())
+        d->m_buffer.setBytesEnabled(data.size());
     d->setData(data);
 }
 
@@ -205,6 +217,7 @@ int QHexEdit::bytesEnabled() const
 void QHexEdit::setBytesEnabled(int count)
 {
     // Padding is configuration, not an edit: nothing to undo.
+    d->m_bytesEnabledSet = true;
     d->m_buffer.setBytesEnabled(count);
     d->updateLayout();
     const int size = d->m_buffer.size();

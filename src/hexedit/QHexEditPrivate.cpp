@@ -92,7 +92,9 @@ QHexEditPrivate::QHexEditPrivate(QHexEdit *q)
 
 QHexEditPrivate::~QHexEditPrivate()
 {
-    // The commands point into m_buffer: let them go first.
+    // The commands point into m_buffer: let them go first, and quietly, since
+    // the editor is already half destroyed.
+    m_undoStack->disconnect();
     delete m_undoStack;
 }
 

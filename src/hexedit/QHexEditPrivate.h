@@ -85,6 +85,7 @@ public:
     int m_lastSize = 0;
     int m_lastAddress = 0;
     bool m_settingData = false;
+    bool m_bytesEnabledSet = false;
 
 protected:
     void timerEvent(QTimerEvent *event) override;
