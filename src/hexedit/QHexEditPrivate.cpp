@@ -305,6 +305,9 @@ QRect QHexEditPrivate::cursorCell() const
 
 void QHexEditPrivate::ensureCursorVisible()
 {
+    // Before the first show the viewport has no real size to scroll by.
+    if (!q->isVisible())
+        return;
     const int row = m_cursor / 2 / s_bytesPerRow;
     QScrollBar *v = q->verticalScrollBar();
     if (row < v->value())
