@@ -57,6 +57,7 @@ private slots:
     void clickPlacesCursor();
     void dragSelects();
     void cursorSignals();
+    void undoShowsTheChange();
     void clipboardRoundTrip();
     void pasteOverwrite_data();
     void pasteOverwrite();
@@ -217,6 +218,18 @@ void tst_QHexEdit::cursorSignals()
     QCOMPARE(size.count(), 1);
     QCOMPARE(size.last().at(0).toInt(), 5);
     QCOMPARE(changed.count(), 1);
+}
+
+void tst_QHexEdit::undoShowsTheChange()
+{
+    QHexEdit edit;
+    edit.setData(QByteArray(64, '\0'));
+    typeKeys(&edit, QStringLiteral("Right Right Right Right 1 2 C-End"));
+    QCOMPARE(edit.cursorPosition(), 64);
+    edit.undoStack()->undo();  // as a host's undo action does
+    QCOMPARE(edit.cursorPosition(), 2);
+    typeKeys(&edit, QStringLiteral("C-End C-y"));
+    QCOMPARE(edit.cursorPosition(), 2);
 }
 
 void tst_QHexEdit::clipboardRoundTrip()
