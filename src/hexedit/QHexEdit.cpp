@@ -10,6 +10,11 @@
 #include <QScrollBar>
 #include <QUndoStack>
 
+#include <limits>
+
+// Cursor positions count nibbles in an int: twice the size must still fit.
+static const int s_largestSize = (std::numeric_limits<int>::max() / 2) & ~15;
+
 QHexEdit::QHexEdit(QWidget *parent)
     : QAbstractScrollArea(parent)
     , d(new QHexEditPrivate(this))
@@ -42,7 +47,9 @@ void QHexEdit::setData(const QByteArray &data)
     // Unless the host fixed the count, every byte handed over is shown, also
     // beyond the buffer's default of 0xffffff (a 16 MiB image has one more).
     if (!d->m_bytesEnabledSet && data.size() > d->m_buffer.bytesEnabled())
-        d->m_buffer.setBytesEnabled(data.size());
+        d->m_buffer.setBytesEnabled(std::min(data.size(), s_largestSize));
+    else if (data.size() > s_largestSize && d->m_buffer.bytesEnabled() > s_largestSize)
+        d->m_buffer.setBytesEnabled(s_largestSize);
     d->setData(data);
 }
 
@@ -218,7 +225,7 @@ void QHexEdit::setBytesEnabled(int count)
 {
     // Padding is configuration, not an edit: nothing to undo.
     d->m_bytesEnabledSet = true;
-    d->m_buffer.setBytesEnabled(count);
+    d->m_buffer.setBytesEnabled(std::min(count, s_largestSize));
     d->updateLayout();
     const int size = d->m_buffer.size();
     d->m_cursor = std::min(d->m_cursor, 2 * size);
