@@ -217,6 +217,10 @@ void tst_XByteArray::toRedableString_data()
         + QString(16, ' ') + QStringLiteral("\n");
     QTest::newRow("17 bytes: two lines") << QByteArray(17, 'A') << 0 << 0 << -1 << full + tail;
     QTest::newRow("end inside a line prints the whole line") << QByteArray(17, 'A') << 0 << 0 << 1 << full;
+    QTest::newRow("end past the data: blank address lines") << QByteArray(2, 'A') << 0 << 0 << 40
+            << QStringLiteral("0000  41 41") + QString(42, ' ') + QStringLiteral("  AA") + QString(15, ' ')
+                    + QStringLiteral("\n0010 ") + QString(67, ' ') + QStringLiteral("\n0020 ")
+                    + QString(67, ' ') + QStringLiteral("\n");
     QTest::newRow("end at start") << QByteArray(17, 'A') << 0 << 16 << 16 << QString();
     QTest::newRow("empty data") << QByteArray() << 0 << 0 << -1 << QString();
     QTest::newRow("offset") << QByteArray("AB") << 0x1000 << 0 << -1
