@@ -22,6 +22,8 @@ public:
     void undo() override;
     void redo() override;
 
+    int start() const { return m_start; }
+
 private:
     Cmd m_kind;
     XByteArray *m_xData;

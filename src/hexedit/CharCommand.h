@@ -24,6 +24,8 @@ public:
     // two nibbles of one byte undo as one step.
     bool mergeWith(const QUndoCommand *command) override;
 
+    int position() const { return m_position; }
+
 private:
     XByteArray *m_xData;
     int m_position;

@@ -3,11 +3,17 @@
 #include "QHexEditPrivate.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QUndoStack>
+
+#include <limits>
+
+// Cursor positions count nibbles in an int: twice the size must still fit.
+static const int s_largestSize = (std::numeric_limits<int>::max() / 2) & ~15;
 
 QHexEdit::QHexEdit(QWidget *parent)
     : QAbstractScrollArea(parent)
@@ -18,7 +24,14 @@ QHexEdit::QHexEdit(QWidget *parent)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // Platforms without a fixed-font setting hand out the proportional default.
+    if (!QFontInfo(font).fixedPitch()) {
+        font.setFamily(QStringLiteral("monospace"));
+        font.setStyleHint(QFont::TypeWriter);
+        font.setFixedPitch(true);
+    }
+    setFont(font);
     d->updateLayout();
 }
 
@@ -31,6 +44,12 @@ QByteArray QHexEdit::data() const
 
 void QHexEdit::setData(const QByteArray &data)
 {
+    // Unless the host fixed the count, every byte handed over is shown, also
+    // beyond the buffer's default of 0xffffff (a 16 MiB image has one more).
+    if (!d->m_bytesEnabledSet && data.size() > d->m_buffer.bytesEnabled())
+        d->m_buffer.setBytesEnabled(std::min(data.size(), s_largestSize));
+    else if (data.size() > s_largestSize && d->m_buffer.bytesEnabled() > s_largestSize)
+        d->m_buffer.setBytesEnabled(s_largestSize);
     d->setData(data);
 }
 
@@ -205,7 +224,8 @@ int QHexEdit::bytesEnabled() const
 void QHexEdit::setBytesEnabled(int count)
 {
     // Padding is configuration, not an edit: nothing to undo.
-    d->m_buffer.setBytesEnabled(count);
+    d->m_bytesEnabledSet = true;
+    d->m_buffer.setBytesEnabled(std::min(count, s_largestSize));
     d->updateLayout();
     const int size = d->m_buffer.size();
     d->m_cursor = std::min(d->m_cursor, 2 * size);

@@ -79,6 +79,7 @@ public:
     int maxSize() const;
     void setMaxSize(int size);
     // Number of bytes that count as present; a larger count pads the data with zeros.
+    // Until set, it grows to the size of any data given to setData().
     int bytesEnabled() const;
     void setBytesEnabled(int count);
 

@@ -72,6 +72,18 @@ bool fromHexText(const QString &text, QByteArray *bytes)
 
 enum ByteStyle { Plain, Changed, Selected };
 
+// Where a command (or the first command of a macro) edits, -1 if unknown.
+int commandPosition(const QUndoCommand *command)
+{
+    if (command && command->childCount() > 0)
+        command = command->child(0);
+    if (auto c = dynamic_cast<const CharCommand *>(command))
+        return c->position();
+    if (auto a = dynamic_cast<const ArrayCommand *>(command))
+        return a->start();
+    return -1;
+}
+
 }
 
 QHexEditPrivate::QHexEditPrivate(QHexEdit *q)
@@ -92,7 +104,9 @@ QHexEditPrivate::QHexEditPrivate(QHexEdit *q)
 
 QHexEditPrivate::~QHexEditPrivate()
 {
-    // The commands point into m_buffer: let them go first.
+    // The commands point into m_buffer: let them go first, and quietly, since
+    // the editor is already half destroyed.
+    m_undoStack->disconnect();
     delete m_undoStack;
 }
 
@@ -101,6 +115,7 @@ void QHexEditPrivate::setData(const QByteArray &data)
     m_settingData = true;
     m_buffer.setData(data);
     m_undoStack->clear();
+    m_lastIndex = 0;
     m_settingData = false;
     m_cursor = 0;
     m_selBegin = m_selEnd = m_selAnchor = 0;
@@ -303,6 +318,9 @@ QRect QHexEditPrivate::cursorCell() const
 
 void QHexEditPrivate::ensureCursorVisible()
 {
+    // Before the first show the viewport has no real size to scroll by.
+    if (!q->isVisible())
+        return;
     const int row = m_cursor / 2 / s_bytesPerRow;
     QScrollBar *v = q->verticalScrollBar();
     if (row < v->value())
@@ -401,6 +419,14 @@ void QHexEditPrivate::bufferChanged()
     if (m_settingData)
         return;
     const int size = m_buffer.size();
+    // Undo and redo, also from a host's actions, show where they changed the data.
+    const int index = m_undoStack->index();
+    if (index != m_lastIndex) {
+        const int pos = commandPosition(m_undoStack->command(index < m_lastIndex ? index : index - 1));
+        m_lastIndex = index;
+        if (pos >= 0)
+            m_cursor = 2 * pos;
+    }
     m_cursor = std::min(m_cursor, 2 * size);
     m_selBegin = std::min(m_selBegin, size);
     m_selEnd = std::min(m_selEnd, size);
@@ -416,6 +442,7 @@ void QHexEditPrivate::bufferChanged()
         m_lastSize = size;
         emit q->currentSizeChanged(size);
     }
+    ensureCursorVisible();
     emitCursorSignals();
 }
 
@@ -661,9 +688,10 @@ void QHexEditPrivate::keyPress(QKeyEvent *event)
             value = char((old & 0xf0) | hexValue(c));
         else
             value = char((old & 0x0f) | (hexValue(c) << 4));
+        const int next = ascii ? 2 * (byte + 1) : m_cursor + 1;
         // A second nibble replaces the same byte and merges into the first command.
         pushEdit(new CharCommand(&m_buffer, append ? CharCommand::insert : CharCommand::replace, byte, value));
-        setCursorNibble(ascii ? 2 * (byte + 1) : m_cursor + 1, false);
+        setCursorNibble(next, false);
     }
     event->accept();
 }

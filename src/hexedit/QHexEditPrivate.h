@@ -85,6 +85,8 @@ public:
     int m_lastSize = 0;
     int m_lastAddress = 0;
     bool m_settingData = false;
+    bool m_bytesEnabledSet = false;
+    int m_lastIndex = 0;  // undo stack index seen last
 
 protected:
     void timerEvent(QTimerEvent *event) override;

@@ -212,9 +212,8 @@ QString XByteArray::toRedableString(int start, int end)
     const int sz = size();
     if (end < 0)
         end = sz;
-    // Lines past the data or wholly before it would only repeat blanks; leaving
-    // them out keeps a wild range from allocating without bound.
-    end = std::min(end, sz);
+    // Lines wholly before the data would only repeat blanks: they are left out.
+    // Lines past the data are printed as blank address lines.
     qint64 first = start;
     if (first < -15)
         first += (-15 - first + 15) / 16 * 16;
@@ -227,6 +226,9 @@ QString XByteArray::toRedableString(int start, int end)
     const int addressMax = negative ? std::max(aw, 18)
                                     : std::max(aw, hexDigitCount(quint64(lastAddress)));
     const int lineMax = addressMax + 1 + 48 + 2 + 17 + 1;
+    // A dump larger than a QString can hold has no defined text.
+    if (lines * lineMax > (qint64(1) << 29))
+        return QString();
 
     QString result;
     result.resize(int(lines * lineMax));
