@@ -2,6 +2,8 @@
 
 #include <QNetworkAccessManager>
 
+#include <memory>
+
 namespace {
 // A product map is a few hundred bytes; a larger reply is refused rather than buffered.
 constexpr qint64 maximumReply = 1024 * 1024;
@@ -22,8 +24,16 @@ QNetworkAccessManager *NewUpdateCheckerWorker::newManager()
 
 void NewUpdateCheckerWorker::limitSize(QNetworkReply *reply)
 {
-    connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received, qint64 total) {
-        if (received > maximumReply || total > maximumReply)
+    auto guard = std::make_shared<QMetaObject::Connection>();
+    *guard = connect(reply, &QNetworkReply::downloadProgress, this, [this, reply, guard](qint64 received, qint64 total) {
+        if (received <= maximumReply && total <= maximumReply)
+            return;
+        disconnect(*guard);
+        // Reported as a cancelled request; the checker then finds the body empty.
+        disconnect(reply, &QNetworkReply::errorOccurred, this, &NewUpdateCheckerWorker::replyError);
+        reply->skip(reply->bytesAvailable());
+        replyError(QNetworkReply::OperationCanceledError);
+        if (!reply->isFinished())
             reply->abort();
     });
 }
@@ -31,15 +41,15 @@ void NewUpdateCheckerWorker::limitSize(QNetworkReply *reply)
 void NewUpdateCheckerWorker::doWork(QNetworkRequest request, QByteArray block)
 {
     QNetworkReply *reply = newManager()->post(request, block);
-    limitSize(reply);
     connect(reply, &QNetworkReply::errorOccurred, this, &NewUpdateCheckerWorker::replyError);
+    limitSize(reply);
 }
 
 QNetworkReply *NewUpdateCheckerWorker::doGet(QNetworkRequest request)
 {
     QNetworkReply *reply = newManager()->get(request);
-    limitSize(reply);
     connect(reply, &QNetworkReply::errorOccurred, this, &NewUpdateCheckerWorker::replyError);
+    limitSize(reply);
     return reply;
 }
 
