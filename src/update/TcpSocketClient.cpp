@@ -18,6 +18,12 @@ TcpSocketClient::TcpSocketClient(QObject *parent)
     connect(this, &QAbstractSocket::hostFound, this, &TcpSocketClient::hostFound);
 }
 
+TcpSocketClient::~TcpSocketClient()
+{
+    // The base destructor closes the socket; its disconnected must not reach our slots then.
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void TcpSocketClient::writeDataToSocket(QByteArray data)
 {
     QByteArray frame;

@@ -13,6 +13,7 @@ class COMMONGUI_EXPORT TcpSocketClient : public QTcpSocket
 
 public:
     explicit TcpSocketClient(QObject *parent = nullptr);
+    ~TcpSocketClient() override;
 
     void writeDataToSocket(QByteArray data);
 
