@@ -13,6 +13,12 @@
 #include <QUrl>
 
 namespace {
+// An empty name would mean the working directory: never scan or delete there.
+bool directoryExists(const QString &directory)
+{
+    return !directory.isEmpty() && QDir(directory).exists();
+}
+
 QDirIterator pendingCrashes(const QString &directory)
 {
     // Case-sensitive: "a.DMP" is not a dump of ours.
@@ -31,7 +37,7 @@ SentryCrashRecoverer::SentryCrashRecoverer(const QString &uploadUrl, const QStri
 
 bool SentryCrashRecoverer::hasPendingCrashes() const
 {
-    if (!QDir(dumpDirectory).exists())
+    if (!directoryExists(dumpDirectory))
         return false;
     return pendingCrashes(dumpDirectory).hasNext();
 }
@@ -40,7 +46,7 @@ void SentryCrashRecoverer::uploadPendingCrashes()
 {
     if (uploadUrl.isEmpty())
         return;
-    if (!QDir(dumpDirectory).exists())
+    if (!directoryExists(dumpDirectory))
         return;
     QNetworkAccessManager manager;
     const QString release = QCoreApplication::applicationName().remove(QLatin1Char(' '))
@@ -87,7 +93,7 @@ void SentryCrashRecoverer::uploadPendingCrashes()
 
 void SentryCrashRecoverer::discardPendingCrashes()
 {
-    if (!QDir(dumpDirectory).exists())
+    if (!directoryExists(dumpDirectory))
         return;
     QDirIterator it = pendingCrashes(dumpDirectory);
     while (it.hasNext())

@@ -26,6 +26,7 @@ private slots:
     void failedUploadStillDeletes();
     void emptyUrlKeepsDumps();
     void unreadableDumpStays();
+    void emptyDirectoryNameIsNoDirectory();
 
 private:
     QString uploadUrl() const { return m_server.url() + "/api/42/minidump/?sentry_key=abc"; }
@@ -196,6 +197,25 @@ void tst_SentryCrashRecoverer::unreadableDumpStays()
 
     QCOMPARE(filesIn(dumps.path()), QStringList({ "locked.dmp" }));
     QCOMPARE(uploadCount() - before, 1);
+}
+
+void tst_SentryCrashRecoverer::emptyDirectoryNameIsNoDirectory()
+{
+    QTemporaryDir work;
+    createFiles(work.path(), { { "a.dmp", "one" } });
+    const QString previous = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(work.path()));
+    SentryCrashRecoverer recoverer(uploadUrl(), QString());
+    const int before = uploadCount();
+
+    const bool pending = recoverer.hasPendingCrashes();
+    recoverer.uploadPendingCrashes();
+    recoverer.discardPendingCrashes();
+    QDir::setCurrent(previous);
+
+    QVERIFY(!pending);
+    QCOMPARE(filesIn(work.path()), QStringList({ "a.dmp" }));
+    QCOMPARE(uploadCount(), before);
 }
 
 QTEST_GUILESS_MAIN(tst_SentryCrashRecoverer)

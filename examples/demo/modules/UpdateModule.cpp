@@ -14,12 +14,14 @@
 #include <QFile>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 const QString productName = QStringLiteral("commongui-demo");
@@ -95,26 +97,28 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Update checks"), 70, [](D
         checker->queryForUpdates(productName, QApplication::applicationVersion(), false);
     });
 
-    // One posted checker for the window's life: its worker thread ends with it.
-    auto posted = new newUpdateChecker(window);
-    QObject::connect(posted, &newUpdateChecker::networkReplyError, window, [window](QNetworkReply::NetworkError error) {
-        window->log(QObject::tr("Update request failed (network error %1)").arg(int(error)));
-    });
-    QObject::connect(posted, &newUpdateChecker::versionAvailable, window,
-                     [window](const QString &version, const QString &key, bool newer) {
-        window->log(newer ? QObject::tr("Version %1 of %2 is available").arg(version, key)
-                          : QObject::tr("%1 is up to date (server has %2)").arg(key, version));
-    });
-    QAction *byRequest = updates->addAction(QObject::tr("By &binary request"));
-    QObject::connect(byRequest, &QAction::triggered, window, [window, posted] {
+    // A fresh posted checker per check: one object would post its n-th check n times.
+    auto posted = std::make_shared<QPointer<newUpdateChecker>>();
+    auto startPosted = [window, posted](bool showMessage) {
+        delete posted->data();  // waits for its worker thread
+        auto checker = new newUpdateChecker(window);
+        *posted = checker;
+        QObject::connect(checker, &newUpdateChecker::networkReplyError, window,
+                         [window](QNetworkReply::NetworkError error) {
+            window->log(QObject::tr("Update request failed (network error %1)").arg(int(error)));
+        });
+        QObject::connect(checker, &newUpdateChecker::versionAvailable, window,
+                         [window](const QString &version, const QString &key, bool newer) {
+            window->log(newer ? QObject::tr("Version %1 of %2 is available").arg(version, key)
+                              : QObject::tr("%1 is up to date (server has %2)").arg(key, version));
+        });
         window->log(QObject::tr("Posting an update request for product %1").arg(productId));
-        posted->checkForUpdates(productId, QApplication::applicationVersion(), 0, true);
-    });
+        checker->checkForUpdates(productId, QApplication::applicationVersion(), 0, showMessage);
+    };
+    QAction *byRequest = updates->addAction(QObject::tr("By &binary request"));
+    QObject::connect(byRequest, &QAction::triggered, window, [startPosted] { startPosted(true); });
     QAction *quiet = updates->addAction(QObject::tr("By binary request, &quietly"));
-    QObject::connect(quiet, &QAction::triggered, window, [window, posted] {
-        window->log(QObject::tr("Posting a quiet update request for product %1").arg(productId));
-        posted->checkForUpdates(productId, QApplication::applicationVersion(), 0, false);
-    });
+    QObject::connect(quiet, &QAction::triggered, window, [startPosted] { startPosted(false); });
 
     QMenu *diagnostics = window->toolsMenu()->addMenu(QObject::tr("&Crash reports"));
     QAction *sample = diagnostics->addAction(QObject::tr("Leave a &sample crash dump"));
