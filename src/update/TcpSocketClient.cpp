@@ -27,6 +27,7 @@ TcpSocketClient::~TcpSocketClient()
 void TcpSocketClient::writeDataToSocket(QByteArray data)
 {
     QByteArray frame;
+    frame.reserve(int(sizeof(qint64)) + minimumFrame + data.size());  // one allocation per frame
     QDataStream out(&frame, QIODevice::WriteOnly);
     out.setVersion(QDataStream::Qt_5_1);
     out << qint64(0) << data;
@@ -50,16 +51,24 @@ void TcpSocketClient::readDataFromSocket()
         return;
 
     // The frame is cut by its own length, so a malformed message cannot swallow the next frame.
-    const QByteArray frame = read(blockSize);
+    const qint64 frameSize = blockSize;
     blockSize = 0;
-    if (frame.size() < minimumFrame)
+    if (frameSize < minimumFrame) {
+        skip(frameSize);
         return;
-    QDataStream message(frame);
-    message.setVersion(QDataStream::Qt_5_1);
+    }
+    quint32 length = 0;
+    in >> length;
+    const qint64 rest = frameSize - minimumFrame;
     QByteArray data;
-    message >> data;
-    if (message.status() != QDataStream::Ok)
-        return;
+    if (length != 0xFFFFFFFFu) {  // all ones: a null array
+        if (length > rest) {
+            skip(rest);
+            return;
+        }
+        data = read(length);
+    }
+    skip(rest - data.size());
     emit receivedData(data);
 }
 
