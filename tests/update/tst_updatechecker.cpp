@@ -95,6 +95,9 @@ void tst_UpdateChecker::evaluatesReply_data()
     QTest::newRow("text before the name") << "2.4.0" << QByteArray("x demotool:3.0.0") << failed << invalid << warn;
     QTest::newRow("last colon splits") << "2.4.0" << QByteArray("demotool:x:3.0.0") << failed << invalid << warn;
     QTest::newRow("empty body") << "2.4.0" << QByteArray() << failed << invalid << warn;
+    // Only the first 64 KiB of a body are kept.
+    QTest::newRow("version line after 64 KiB") << "2.4.0" << QByteArray(70000, '#') + "\ndemotool:3.0.0" << failed
+                                               << invalid << warn;
     QTest::newRow("binary garbage") << "2.4.0" << QByteArray("\xff\xfe\x00\x01\x80", 5) << failed << invalid << warn;
 }
 
