@@ -15,7 +15,7 @@ void ClickableLineEdit::setLinkText(QString toolTip, QString link)
         setCursor(Qt::PointingHandCursor);
     } else {
         linkActive = false;
-        unsetCursor();
+        setCursor(Qt::IBeamCursor);
     }
     linkText = link;
 }
@@ -23,7 +23,7 @@ void ClickableLineEdit::setLinkText(QString toolTip, QString link)
 void ClickableLineEdit::clear()
 {
     linkText.clear();
-    unsetCursor();
+    setCursor(Qt::IBeamCursor);  // a line edit's own cursor
     linkActive = false;
     QLineEdit::clear();
 }

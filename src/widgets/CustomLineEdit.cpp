@@ -38,9 +38,15 @@ QString CustomLineEdit::acceptableFile(const QMimeData *data) const
     return file.absoluteFilePath();
 }
 
+// QLineEdit would take only text drags: without this a file drag never
+// reaches dragMoveEvent.
+void CustomLineEdit::dragEnterEvent(QDragEnterEvent *event)
+{
+    dragMoveEvent(event);
+}
+
 void CustomLineEdit::dragMoveEvent(QDragMoveEvent *event)
 {
-    // QLineEdit routes drag-enter here as well.
     if (!acceptableFile(event->mimeData()).isEmpty())
         event->acceptProposedAction();
     else

@@ -18,6 +18,7 @@ public:
     void setInvokeReturnPressed(bool invoke);
 
 protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 

@@ -24,8 +24,9 @@ void TextOverlay::setCoords(QPoint topLeft, QPoint bottomRight)
 
 void TextOverlay::calcNewTextSize()
 {
-    QFont font(QStringLiteral("Arial"), 400);
-    setFont(font);
+    setFont(QFont(QStringLiteral("Arial"), 400));
+    // Measure the font as the widget resolves it: that is the one painted.
+    QFont font = this->font();
     // Coordinate differences, not QRect::width(): the caption may touch both edges.
     const int maxWidth = textRect.right() - textRect.left();
     const int maxHeight = textRect.bottom() - textRect.top();

@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QMovie>
 #include <QPixmap>
 #include <QScrollBar>
@@ -58,7 +59,8 @@ void TipOfTheDay::showNewTip(unsigned char index)
     ui->textBrowser->adjustSize();
 
     const QString path = QStringLiteral(":/totd/totd/%1").arg(tip.image);
-    if (!QFile::exists(path)) {
+    // An empty name gives the folder itself, which is no picture.
+    if (!QFileInfo(path).isFile()) {
         ui->imgLabel->hide();
     } else {
         ui->imgLabel->show();
