@@ -24,8 +24,17 @@ const QMap<QString, QString> ManualHandler::mFileNameToDisplayName = {
 
 ManualHandler::ManualHandler(QObject *parent)
     : QObject(parent)
-    , manualsMenu(new QMenu(QStringLiteral("Manuals")))
+    , manualsMenu(nullptr)
 {
+    createMenu();
+}
+
+void ManualHandler::createMenu()
+{
+    manualsMenu = new QMenu(QStringLiteral("Manuals"));
+    m_menuHandedOut = false;
+    // The host may free the menu while the handler lives on.
+    connect(manualsMenu, &QObject::destroyed, this, [this] { manualsMenu = nullptr; });
 }
 
 ManualHandler::~ManualHandler()
@@ -42,6 +51,8 @@ void ManualHandler::setManualsPath(const QString &path)
 
 QMenu *ManualHandler::getManualsMenu()
 {
+    if (!manualsMenu)
+        createMenu();
     manualsMenu->clear();
     qDeleteAll(m_entries);
     m_entries.clear();

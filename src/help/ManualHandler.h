@@ -32,6 +32,8 @@ public slots:
     void actionTriggered();
 
 private:
+    void createMenu();
+
     QString manualsPath;
     QMenu *manualsMenu;
     // Entries have no parent; they go with the handler or the next refill.

@@ -105,7 +105,13 @@ void tst_ManualHandler::refillDoesNotDuplicate()
 
     QCOMPARE(second, first);  // one menu, refilled
     QCOMPARE(entryTitles(second), (QStringList { "Handbuch (de)", "Script API (en)" }));
+
+    // A host that frees the menu gets a new one next time.
     delete second;
+    QMenu *third = handler.getManualsMenu();
+    QVERIFY(third);
+    QCOMPARE(entryTitles(third), (QStringList { "Handbuch (de)", "Script API (en)" }));
+    delete third;
 }
 
 void tst_ManualHandler::triggerOpensThePdf()
