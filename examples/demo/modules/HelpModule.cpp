@@ -57,9 +57,9 @@ const char credits[] =
 
 // Opens on the start page with the contents unfolded; `wait` lets the
 // screenshot see the contents, which the engine builds in the background.
-HelpViewer *createHelpViewer(bool wait = false)
+HelpViewer *createHelpViewer(QWidget *parent, bool wait = false)
 {
-    auto viewer = new HelpViewer;
+    auto viewer = new HelpViewer(parent);
     viewer->setWindowTitle(QObject::tr("CommonGUI Demo - Help"));
     viewer->setAttribute(Qt::WA_DeleteOnClose);
     viewer->resize(900, 560);
@@ -82,9 +82,9 @@ HelpViewer *createHelpViewer(bool wait = false)
     return viewer;
 }
 
-TipOfTheDay *createTips(bool showOnStartup, unsigned char lastTip)
+TipOfTheDay *createTips(bool showOnStartup, unsigned char lastTip, QWidget *parent)
 {
-    auto tips = new TipOfTheDay(tipFile(), showOnStartup, lastTip);
+    auto tips = new TipOfTheDay(tipFile(), showOnStartup, lastTip, parent);
     tips->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(tips, &TipOfTheDay::newTipValues, [](unsigned char last, bool show) {
         QSettings settings;
@@ -94,7 +94,8 @@ TipOfTheDay *createTips(bool showOnStartup, unsigned char lastTip)
     return tips;
 }
 
-void showTips(bool atStartup)
+// With the main window as parent: closing it closes the tips too.
+void showTips(bool atStartup, QWidget *window)
 {
     QSettings settings;
     const bool show = settings.value(QStringLiteral("TipOfTheDay/showOnStartup"), true).toBool();
@@ -102,7 +103,7 @@ void showTips(bool atStartup)
         return;
     const auto last = static_cast<unsigned char>(
             settings.value(QStringLiteral("TipOfTheDay/lastTip"), 255).toUInt());
-    createTips(show, last)->show();
+    createTips(show, last, window)->show();
 }
 
 // Keeps the watermark over the whole log view.
@@ -195,7 +196,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
     QObject::connect(contents, &QAction::triggered, window, [window] {
         if (!QFileInfo::exists(dataPath(QStringLiteral("help/demo.qhc"))))
             window->log(QObject::tr("No help collection next to the tool"));
-        createHelpViewer()->show();
+        createHelpViewer(window)->show();
     });
     auto quickHelp = new HelpViewerDialog(window);
     quickHelp->setFile(dataPath(QStringLiteral("help/quickhelp.html")));
@@ -216,7 +217,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
 
     help->addSeparator();
     QAction *tips = help->addAction(QIcon(QStringLiteral(":/data/icons/questionmark.png")), QObject::tr("&Tip of the Day..."));
-    QObject::connect(tips, &QAction::triggered, window, [] { showTips(false); });
+    QObject::connect(tips, &QAction::triggered, window, [window] { showTips(false, window); });
     help->addSeparator();
     QAction *about = help->addAction(QIcon(QStringLiteral(":/data/icons/info.png")), QObject::tr("&About..."));
     QObject::connect(about, &QAction::triggered, window, [window] {
@@ -225,11 +226,11 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
     });
 
     if (!screenshots)
-        QTimer::singleShot(0, window, [] { showTips(true); });
+        QTimer::singleShot(0, window, [window] { showTips(true, window); });
 
     // Screenshots of every window of this module.
     window->addScreenshot(QStringLiteral("help-viewer"), [] {
-        HelpViewer *viewer = createHelpViewer(true);
+        HelpViewer *viewer = createHelpViewer(nullptr, true);
         viewer->setAttribute(Qt::WA_DeleteOnClose, false);
         return viewer;
     });
@@ -240,12 +241,12 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
         return dialog;
     });
     window->addScreenshot(QStringLiteral("tip-of-the-day"), [] {
-        auto tips = createTips(true, 255);
+        auto tips = createTips(true, 255, nullptr);
         tips->setAttribute(Qt::WA_DeleteOnClose, false);
         return tips;
     });
     window->addScreenshot(QStringLiteral("tip-of-the-day-animated"), [] {
-        auto tips = createTips(true, 2);
+        auto tips = createTips(true, 2, nullptr);
         tips->setAttribute(Qt::WA_DeleteOnClose, false);
         return tips;
     });
