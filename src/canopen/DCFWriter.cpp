@@ -20,6 +20,8 @@ public:
     {
         m_names.clear();
         m_byFold.clear();
+        m_names.reserve(names.size());
+        m_byFold.reserve(names.size());
         for (const QString &name : names)
             add(name);
     }
@@ -29,8 +31,9 @@ public:
         if (name.isEmpty() || m_names.contains(name))
             return;
         m_names.insert(name);
-        QStringList &spellings = m_byFold[name.toCaseFolded()];
-        spellings.insert(std::lower_bound(spellings.begin(), spellings.end(), name), name);
+        Spellings &spellings = m_byFold[name.toCaseFolded()];
+        if (spellings.count++ == 0 || name < spellings.first)
+            spellings.first = name;
     }
 
     void remove(const QString &name)
@@ -41,9 +44,18 @@ public:
         auto it = m_byFold.find(folded);
         if (it == m_byFold.end())
             return;
-        it->removeOne(name);
-        if (it->isEmpty())
+        if (--it->count == 0) {
             m_byFold.erase(it);
+            return;
+        }
+        if (it->first != name)
+            return;
+        // Rare: several spellings of one section. Find the next first one.
+        it->first.clear();
+        for (const QString &other : qAsConst(m_names)) {
+            if (other.toCaseFolded() == folded && (it->first.isEmpty() || other < it->first))
+                it->first = other;
+        }
     }
 
     bool contains(const QString &name) const { return m_names.contains(name); }
@@ -52,12 +64,17 @@ public:
     QString firstMatch(const QString &name) const
     {
         const auto it = m_byFold.constFind(name.toCaseFolded());
-        return it == m_byFold.constEnd() ? QString() : it->first();
+        return it == m_byFold.constEnd() ? QString() : it->first;
     }
 
 private:
+    struct Spellings
+    {
+        QString first;
+        int count = 0;
+    };
     QSet<QString> m_names;
-    QHash<QString, QStringList> m_byFold;
+    QHash<QString, Spellings> m_byFold;
 };
 
 QString indexName(unsigned short index)
@@ -112,14 +129,12 @@ bool DCFWriter::setDCFFile(const QString &fileName)
 {
     if (!QFileInfo::exists(fileName))
         return false;
-    d->storages.push_back(createSettingsStorage(fileName));
+    d->storages.push_back(createDocumentStorage(fileName));
     d->storage = d->storages.back().get();
-    const QStringList keys = d->storage->allKeys();
-    for (const QString &key : keys) {
-        if (key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
-            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive))
-            d->storage->remove(key);
-    }
+    d->storage->removeKeysIf([](const QString &key) {
+        return key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
+            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive);
+    });
     d->sections.reset(d->storage->childGroups());
     return true;
 }

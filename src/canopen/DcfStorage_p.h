@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 
 // What the DCF writer needs from the INI layer beneath it. Paths are
@@ -18,8 +19,9 @@ public:
     virtual QVariant value(const QString &path, const QVariant &defaultValue = QVariant()) const = 0;
     virtual void setValue(const QString &path, const QVariant &value) = 0;
     virtual void remove(const QString &path) = 0;
+    virtual void removeKeysIf(const std::function<bool(const QString &)> &accept) = 0;
     virtual bool sync() = 0;
 };
 
-// QSettings in INI form with the UTF-8 codec.
-std::unique_ptr<DcfStorage> createSettingsStorage(const QString &fileName);
+// The file as text edited in place: untouched lines are written back unchanged.
+std::unique_ptr<DcfStorage> createDocumentStorage(const QString &fileName);
