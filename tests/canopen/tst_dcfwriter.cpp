@@ -28,6 +28,12 @@ private slots:
     void optionalObjects();
     void commissioning();
     void corpus();
+    void untouchedRoundTrip_data();
+    void untouchedRoundTrip();
+    void editedRoundTrip();
+    void valueEscaping_data();
+    void valueEscaping();
+    void corpusRoundTrip();
 
 private:
     QString writeSheet(const QByteArray &text);
@@ -427,6 +433,165 @@ void tst_DCFWriter::corpus()
             QVERIFY2(settings.value(section + "/ParameterValue").toString() == "0x1",
                      qPrintable(name + ": " + section));
         QCOMPARE(settings.childGroups(), sections);
+    }
+}
+
+void tst_DCFWriter::untouchedRoundTrip_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::newRow("crlf, comments, quoting, lines without =")
+        << QByteArray("; Data sheet\r\n[FileInfo]\r\nFileName=dev.eds ; note\r\nDescription=\"a, b\"\r\n\r\n"
+                      "# hash\r\nnot a key line\r\n[1000]\r\nParameterName=Device type\r\nParameterValue=0x191\r\n"
+                      "Denotation=x\r\nDefaultValue=0x191\r\n")
+        << QByteArray("; Data sheet\r\n[FileInfo]\r\nFileName=dev.eds ; note\r\nDescription=\"a, b\"\r\n\r\n"
+                      "# hash\r\nnot a key line\r\n[1000]\r\nParameterName=Device type\r\nDefaultValue=0x191\r\n");
+    QTest::newRow("bom, utf-8, no final line break")
+        << QByteArray("\xEF\xBB\xBF[DeviceInfo]\nVendorName=Z\xC3\xA4hler\n[1000]\n  parametervalue = 5\nAccessType=ro")
+        << QByteArray("\xEF\xBB\xBF[DeviceInfo]\nVendorName=Z\xC3\xA4hler\n[1000]\nAccessType=ro");
+    QTest::newRow("continued value goes whole")
+        << QByteArray("[2000]\nDenotation=first\\\n second\nA=1\n") << QByteArray("[2000]\nA=1\n");
+    QTest::newRow("nothing to drop")
+        << QByteArray("[2000]\n\tA = 1 \n\n\n;end") << QByteArray("[2000]\n\tA = 1 \n\n\n;end");
+}
+
+void tst_DCFWriter::untouchedRoundTrip()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QByteArray, expected);
+    const QString file = writeSheet(input);
+    DCFWriter writer;
+    QVERIFY(writer.setDCFFile(file));
+    QVERIFY(writer.writeFile());
+    QCOMPARE(readAll(file), expected);
+}
+
+static const QByteArray editSheet = "; header comment\r\n[FileInfo]\r\nFileName=dev.eds\r\n\r\n"
+                                    "[1a00sub1]\r\nParameterName=Mapped object 1\r\n; keep me\r\n"
+                                    "DefaultValue=0x60000108\r\n\r\n[1A00sub2]\r\nParameterName=Mapped object 2\r\n\r\n"
+                                    "[2000]\r\nParameterName=Gone\r\n\r\n"
+                                    "[OptionalObjects]\r\nSupportedObjects=1\r\n1=0x2000\r\n";
+
+void tst_DCFWriter::editedRoundTrip()
+{
+    const QString ours = writeSheet(editSheet);
+    {
+        DCFWriter writer;
+        QVERIFY(writer.setDCFFile(ours));
+        writer.setParameterValue(0x1A00, 1, "0x60000208", "Speed");
+        writer.setParameterValue(0x1A00, 2, "2", "");
+        writer.delIndex(0x2000);
+        writer.updateOptionalObjects({ 0x1A00 });
+        writer.updateDeviceCommisioning(250, 1, "Net", 5, "Node");
+        writer.updateOtherSettings("FileInfo", "FileName", "node5.dcf");
+        QVERIFY(writer.writeFile());
+    }
+    // Only edited, added and removed lines differ.
+    QCOMPARE(readAll(ours), QByteArray("; header comment\r\n[FileInfo]\r\nFileName=node5.dcf\r\n\r\n"
+                                       "[1a00sub1]\r\nParameterName=Mapped object 1\r\n; keep me\r\n"
+                                       "DefaultValue=0x60000108\r\nParameterValue=0x60000208\r\nDenotation=Speed\r\n\r\n"
+                                       "[1A00sub2]\r\nParameterName=Mapped object 2\r\nParameterValue=2\r\n\r\n"
+                                       "[OptionalObjects]\r\nSupportedObjects=1\r\n1=0x1a00\r\n\r\n"
+                                       "[DeviceComissioning]\r\nBaudrate=250\r\nNodeID=5\r\nNetNumber=1\r\n"
+                                       "NetworkName=Net\r\nNodeName=Node\r\n"));
+
+    // The same edits made by QSettings itself read back the same.
+    const QString theirs = writeSheet(editSheet);
+    {
+        QSettings settings(theirs, QSettings::IniFormat);
+        settings.setIniCodec("UTF-8");
+        settings.setValue("1a00sub1/ParameterValue", "0x60000208");
+        settings.setValue("1a00sub1/Denotation", "Speed");
+        settings.setValue("1A00sub2/ParameterValue", "2");
+        settings.remove("2000");
+        settings.remove("OptionalObjects/1");
+        settings.setValue("OptionalObjects/1", "0x1a00");
+        settings.setValue("OptionalObjects/SupportedObjects", 1);
+        settings.setValue("DeviceComissioning/Baudrate", 250);
+        settings.setValue("DeviceComissioning/NodeID", 5);
+        settings.setValue("DeviceComissioning/NetNumber", 1);
+        settings.setValue("DeviceComissioning/NetworkName", "Net");
+        settings.setValue("DeviceComissioning/NodeName", "Node");
+        settings.setValue("FileInfo/FileName", "node5.dcf");
+    }
+    QSettings a(ours, QSettings::IniFormat), b(theirs, QSettings::IniFormat);
+    QCOMPARE(a.allKeys(), b.allKeys());
+    for (const QString &key : b.allKeys())
+        QCOMPARE(a.value(key), b.value(key));
+}
+
+void tst_DCFWriter::valueEscaping_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("comma and semicolon") << "a, b; c" << QByteArray("ParameterValue=\"a, b; c\"");
+    QTest::newRow("leading space") << " 5" << QByteArray("ParameterValue=\" 5\"");
+    QTest::newRow("at sign") << "@x" << QByteArray("ParameterValue=@@x");
+    QTest::newRow("utf-8 as is") << QString::fromUtf8("Z\xC3\xA4hler") << QByteArray("ParameterValue=Z\xC3\xA4hler");
+    QTest::newRow("backslash and quote") << "a\\\"b" << QByteArray("ParameterValue=a\\\\\\\"b");
+    QTest::newRow("tab") << "a\tb" << QByteArray("ParameterValue=a\\tb");
+}
+
+void tst_DCFWriter::valueEscaping()
+{
+    QFETCH(QString, value);
+    QFETCH(QByteArray, line);
+    const QString file = writeSheet("[2000]\nParameterName=x\n");
+    {
+        DCFWriter writer;
+        QVERIFY(writer.setDCFFile(file));
+        writer.setParameterValue(0x2000, 0, value, "");
+    }
+    QCOMPARE(readAll(file), "[2000]\nParameterName=x\n" + line + "\n");
+    QCOMPARE(valueOf(file, "2000/ParameterValue"), value);
+}
+
+// The file as loading leaves it: lines of values and denotations gone, nothing else.
+static QByteArray withoutValues(const QByteArray &text)
+{
+    QByteArray out;
+    QByteArray section;
+    int start = 0;
+    while (start < text.size()) {
+        int end = start;
+        while (end < text.size() && text.at(end) != '\n' && text.at(end) != '\r')
+            ++end;
+        if (end < text.size() && text.at(end) == '\r' && end + 1 < text.size() && text.at(end + 1) == '\n')
+            ++end;
+        if (end < text.size())
+            ++end;
+        const QByteArray line = text.mid(start, end - start);
+        const QByteArray trimmed = line.trimmed();
+        bool drop = false;
+        if (trimmed.startsWith('[')) {
+            section = trimmed.toLower();
+        } else if (!trimmed.startsWith(';') && trimmed.indexOf('=') > 0) {
+            const QByteArray path = section + '/' + trimmed.left(trimmed.indexOf('=')).toLower();
+            drop = path.contains("parametervalue") || path.contains("denotation");
+        }
+        if (!drop)
+            out += line;
+        start = end;
+    }
+    return out;
+}
+
+void tst_DCFWriter::corpusRoundTrip()
+{
+    const QString dir = qEnvironmentVariable("COMMONGUI_CORPUS_DIR") + QStringLiteral("/eds");
+    if (qEnvironmentVariableIsEmpty("COMMONGUI_CORPUS_DIR") || !QDir(dir).exists())
+        QSKIP("no corpus of data sheets");
+    for (const QString &name : QDir(dir).entryList({ "*.eds", "*.dcf" }, QDir::Files, QDir::Name)) {
+        QFile source(QDir(dir).filePath(name));
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QByteArray original = source.readAll();
+        const QString file = writeSheet(original);
+        {
+            DCFWriter writer;
+            QVERIFY(writer.setDCFFile(file));
+            QVERIFY(writer.writeFile());
+        }
+        QVERIFY2(readAll(file) == withoutValues(original), qPrintable(name));
     }
 }
 
