@@ -3,6 +3,7 @@
 #include "DemoWindow.h"
 
 #include "CANopenTypes.h"
+#include "ConciseDcfCreator.h"
 #include "DCFWriter.h"
 
 #include <QAction>
@@ -22,6 +23,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QSpinBox>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -104,14 +106,31 @@ public:
                                              tr("Default"), tr("Value"), tr("Denotation") });
         m_table->verticalHeader()->hide();
         m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-        layout->addWidget(m_table, 1);
+        m_concise = new QTableWidget(0, 4);
+        m_concise->setHorizontalHeaderLabels({ tr("Index"), tr("Sub"), tr("Size"), tr("Data (little-endian)") });
+        m_concise->verticalHeader()->hide();
+        m_concise->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
+        m_concise->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        auto conciseBox = new QWidget;
+        auto conciseLayout = new QVBoxLayout(conciseBox);
+        conciseLayout->setContentsMargins(0, 0, 0, 0);
+        conciseLayout->addWidget(new QLabel(tr("Concise DCF entries:")));
+        conciseLayout->addWidget(m_concise);
+        auto splitter = new QSplitter(Qt::Vertical);
+        splitter->addWidget(m_table);
+        splitter->addWidget(conciseBox);
+        splitter->setStretchFactor(0, 3);
+        splitter->setStretchFactor(1, 2);
+        layout->addWidget(splitter, 1);
 
         auto buttons = new QHBoxLayout;
         m_status = new QLabel;
         auto write = new QPushButton(tr("&Write DCF..."));
+        auto exportConcise = new QPushButton(tr("&Export concise DCF..."));
         auto close = new QPushButton(tr("Close"));
         buttons->addWidget(m_status, 1);
         buttons->addWidget(write);
+        buttons->addWidget(exportConcise);
         buttons->addWidget(close);
         layout->addLayout(buttons);
 
@@ -129,8 +148,16 @@ public:
             if (!name.isEmpty())
                 writeDcf(name);
         });
+        connect(exportConcise, &QPushButton::clicked, this, [this] {
+            const QString suggestion = QFileInfo(m_file->text()).dir().filePath(
+                QStringLiteral("node%1.cdcf").arg(m_nodeId->value()));
+            const QString name = QFileDialog::getSaveFileName(this, tr("Export concise DCF"), suggestion,
+                                                              tr("Concise DCF (*.cdcf *.bin)"));
+            if (!name.isEmpty())
+                exportConciseDcf(name);
+        });
         connect(close, &QPushButton::clicked, this, &QDialog::accept);
-        resize(940, 520);
+        resize(940, 640);
 
         if (m_sampleDir.isValid()) {
             const QString sample = m_sampleDir.filePath(QStringLiteral("sample_io.eds"));
@@ -236,6 +263,45 @@ public:
         return true;
     }
 
+    // Writes the DCF beside the output, then its concise form, and lists the entries.
+    bool exportConciseDcf(const QString &output)
+    {
+        const QString dcf = output + QStringLiteral(".dcf");
+        if (!writeDcf(dcf))
+            return false;
+        ConciseDcfCreator creator(dcf);
+        m_concise->setRowCount(0);
+        if (!creator.writeConciseDcf(output)) {
+            m_status->setText(tr("Not exported: %1").arg(creator.errors().value(0)));
+            log(tr("Concise DCF not written:\n%1").arg(creator.errorString()));
+            return false;
+        }
+        QFile file(output);
+        QList<ConciseDcfCreator::ConciseEntry> entries;
+        QString error;
+        if (!file.open(QIODevice::ReadOnly) || !ConciseDcfCreator::readConciseDcf(file.readAll(), &entries, &error)) {
+            m_status->setText(error.isEmpty() ? file.errorString() : error);
+            return false;
+        }
+        for (const auto &entry : qAsConst(entries)) {
+            const int row = m_concise->rowCount();
+            m_concise->insertRow(row);
+            const QStringList cells = { QStringLiteral("0x%1").arg(entry.index, 4, 16, QLatin1Char('0')).toUpper().replace(QLatin1String("0X"), QLatin1String("0x")),
+                                        QString::number(entry.subIndex, 16).toUpper(),
+                                        QString::number(entry.data.size()),
+                                        QString::fromLatin1(entry.data.toHex(' ')) };
+            for (int c = 0; c < cells.size(); ++c)
+                m_concise->setItem(row, c, new QTableWidgetItem(cells.at(c)));
+        }
+        m_concise->resizeColumnsToContents();
+        m_concise->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
+        m_status->setText(tr("Exported %n entry(s) to %1", nullptr, entries.size()).arg(QFileInfo(output).fileName()));
+        log(tr("Wrote concise DCF %1 with %n entry(s)", nullptr, entries.size()).arg(output));
+        return true;
+    }
+
+    QString sampleDirectory() const { return m_sampleDir.path(); }
+
 private:
     void log(const QString &text)
     {
@@ -251,6 +317,7 @@ private:
     QLineEdit *m_netName = nullptr;
     QLineEdit *m_nodeName = nullptr;
     QTableWidget *m_table = nullptr;
+    QTableWidget *m_concise = nullptr;
     QLabel *m_status = nullptr;
 };
 
@@ -267,6 +334,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("CANopen"), 40, [](DemoWin
     window->addScreenshot(QStringLiteral("canopen-configure-node"), [] {
         auto dialog = new ConfigureNodeWindow;
         dialog->setSampleValues();
+        dialog->exportConciseDcf(QDir(dialog->sampleDirectory()).filePath(QStringLiteral("node5.cdcf")));
         return dialog;
     });
 } });
