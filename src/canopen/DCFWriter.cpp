@@ -254,10 +254,8 @@ QString DCFWriter::existingSection(unsigned short index, unsigned char subIndex)
                 candidate = idx.toUpper();
         }
     }
-    const QString spelled = d->sections.firstMatch(candidate);
-    if (!spelled.isEmpty())
-        candidate = spelled;
-    return d->sections.contains(candidate) ? candidate : QString();
+    // The first spelling regardless of case; none means the candidate is absent too.
+    return d->sections.firstMatch(candidate);
 }
 
 bool DCFWriter::setParameterValue(unsigned short index, unsigned char subIndex, QString value,
@@ -266,10 +264,11 @@ bool DCFWriter::setParameterValue(unsigned short index, unsigned char subIndex, 
     const QString section = existingSection(index, subIndex);
     if (section.isEmpty())
         return true;
+    // The section exists: no need to record it again.
     if (!value.isEmpty())
-        d->set(section, QStringLiteral("ParameterValue"), value);
+        d->storage->setValue(section + QLatin1String("/ParameterValue"), value);
     if (!denotation.isEmpty())
-        d->set(section, QStringLiteral("Denotation"), denotation);
+        d->storage->setValue(section + QLatin1String("/Denotation"), denotation);
     return true;
 }
 
@@ -277,7 +276,7 @@ bool DCFWriter::setDenotation(unsigned short index, unsigned char subIndex, QStr
 {
     const QString section = existingSection(index, subIndex);
     if (!section.isEmpty() && !denotation.isEmpty())
-        d->set(section, QStringLiteral("Denotation"), denotation);
+        d->storage->setValue(section + QLatin1String("/Denotation"), denotation);
     return true;
 }
 

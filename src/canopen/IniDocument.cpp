@@ -311,6 +311,7 @@ void IniDocument::parse(const QByteArray &input)
             Block block;
             block.name = section;
             block.header = int(m_lines.size());
+            block.first = block.header + 1;
             const int id = int(m_blocks.size());
             const auto last = lastBlock.constFind(section);
             if (last == lastBlock.constEnd())
@@ -352,9 +353,8 @@ void IniDocument::parse(const QByteArray &input)
         }
         line.length = next - pos;
         m_lines.push_back(line);
-        const int id = int(m_lines.size()) - 1;
         Block &block = m_blocks[size_t(line.block)];
-        block.lines.append(id);
+        ++block.count;
         if (line.key)
             ++block.liveKeys;
         pos = next;
@@ -406,27 +406,34 @@ bool IniDocument::keyStartsWith(const Line &line, const QString &prefix) const
 }
 
 // The line QSettings reads for a path: the last one in file order.
-int IniDocument::findLine(const QString &path) const
+int IniDocument::findLine(const QString &path, int *sectionBlock) const
 {
     int found = -1;
     int foundBlock = -1;
     int slash = -1;
+    const int firstSlash = path.indexOf(QLatin1Char('/'));
+    if (sectionBlock)
+        *sectionBlock = -1;
     // A path may split into section and key at any slash, or be a key outside sections.
     do {
         const QString section = slash < 0 ? QString() : path.left(slash);
         const QString key = slash < 0 ? path : path.mid(slash + 1);
         if (slash >= 0 || !path.isEmpty()) {
-            for (int b = m_firstBlock.value(section, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
+            // Keys outside sections start in block 0, always.
+            const int first = slash < 0 ? 0 : m_firstBlock.value(section, -1);
+            for (int b = first; b >= 0; b = m_blocks[size_t(b)].nextSameName) {
                 const Block &block = m_blocks[size_t(b)];
+                if (sectionBlock && slash == firstSlash && !block.removed)
+                    *sectionBlock = b;
                 if (block.removed || block.liveKeys == 0)
                     continue;
-                for (int id : block.lines) {
+                forEachLine(block, [&](int id) {
                     const Line &line = m_lines[size_t(id)];
                     if (line.key && !line.removed && keyEquals(line, key) && b >= foundBlock) {
                         found = id;
                         foundBlock = b;
                     }
-                }
+                });
             }
         }
         slash = path.indexOf(QLatin1Char('/'), slash + 1);
@@ -451,8 +458,7 @@ void IniDocument::removeBlock(int id)
         return;
     block.removed = true;
     m_lines[size_t(block.header)].removed = true;
-    for (int line : qAsConst(block.lines))
-        removeLine(line);
+    forEachLine(block, [this](int line) { removeLine(line); });
 }
 
 int IniDocument::newBlock(const QString &name)
@@ -511,10 +517,10 @@ QByteArray IniDocument::toBytes() const
             put(m_eol);
         if (block.header >= 0)
             put(rawLine(block.header));
-        for (int id : block.lines) {
+        forEachLine(block, [&](int id) {
             if (!m_lines[size_t(id)].removed)
                 put(rawLine(id));
-        }
+        });
     }
     return out;
 }
@@ -555,11 +561,11 @@ QStringList IniDocument::allKeys() const
     for (const Block &block : m_blocks) {
         if (block.removed || block.liveKeys == 0)
             continue;
-        for (int id : block.lines) {
+        forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (line.key && !line.removed)
                 keys.insert(block.name.isEmpty() ? keyOf(line) : block.name + QLatin1Char('/') + keyOf(line));
-        }
+        });
     }
     QStringList sorted = keys.values();
     std::sort(sorted.begin(), sorted.end());
@@ -576,11 +582,11 @@ QStringList IniDocument::childGroups() const
             groups.insert(firstSegment(block.name));
             continue;
         }
-        for (int id : block.lines) {
+        forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (line.key && !line.removed && keyOf(line).contains(QLatin1Char('/')))
                 groups.insert(firstSegment(keyOf(line)));
-        }
+        });
     }
     QStringList sorted = groups.values();
     std::sort(sorted.begin(), sorted.end());
@@ -607,7 +613,8 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     if (path.isEmpty())
         return;
     const QByteArray escaped = escapedValue(value);
-    const int existing = findLine(path);
+    int lastBlock = -1;
+    const int existing = findLine(path, &lastBlock);
     if (existing >= 0) {
         // Only the occurrence QSettings reads (the last) is rewritten.
         Line &line = m_lines[size_t(existing)];
@@ -621,20 +628,19 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     const int slash = path.indexOf(QLatin1Char('/'));
     const QString section = slash < 0 ? QString() : path.left(slash);
     const QString key = slash < 0 ? path : path.mid(slash + 1);
-    int blockId = -1;
-    for (int b = m_firstBlock.value(section, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
-        if (!m_blocks[size_t(b)].removed)
-            blockId = b;
-    }
+    int blockId = lastBlock;
     if (blockId < 0)
         blockId = newBlock(section);
     Block &block = m_blocks[size_t(blockId)];
-    int position = 0;
-    for (int i = block.lines.size() - 1; i >= 0; --i) {
-        const Line &other = m_lines[size_t(block.lines.at(i))];
-        if (other.key && !other.removed) {
-            position = i + 1;
-            break;
+    if (block.inserted.isEmpty()) {
+        // After the last key as loaded: blank lines and comments that close the section stay last.
+        block.insertAt = -1;
+        for (int i = block.count - 1; i >= 0; --i) {
+            const Line &other = m_lines[size_t(block.first + i)];
+            if (other.key && !other.removed) {
+                block.insertAt = i;
+                break;
+            }
         }
     }
     const QByteArray rawKeyText = escapedKey(key);
@@ -645,7 +651,7 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     line.keyLength = rawKeyText.size();
     line.block = blockId;
     m_lines.push_back(line);
-    block.lines.insert(position, int(m_lines.size()) - 1);
+    block.inserted.append(int(m_lines.size()) - 1);
     ++block.liveKeys;
 }
 
@@ -665,13 +671,13 @@ bool IniDocument::remove(const QString &rawPath)
             const Block &block = m_blocks[size_t(b)];
             if (block.removed || block.liveKeys == 0)
                 continue;
-            for (int id : block.lines) {
+            forEachLine(block, [&](int id) {
                 const Line &line = m_lines[size_t(id)];
                 if (line.key && !line.removed && (keyEquals(line, key) || keyStartsWith(line, prefix))) {
                     removeLine(id);
                     any = true;
                 }
-            }
+            });
         }
         slash = path.indexOf(QLatin1Char('/'), slash + 1);
     } while (slash >= 0);
@@ -702,10 +708,10 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
         if (block.removed || block.liveKeys == 0)
             continue;
         const QString prefix = block.name.isEmpty() ? QString() : block.name + QLatin1Char('/');
-        for (int id : block.lines) {
+        forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (!line.key || line.removed)
-                continue;
+                return;
             // One buffer for all paths: no allocation per key.
             path.resize(0);
             path += prefix;
@@ -717,7 +723,7 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
                 removeLine(id);
                 any = true;
             }
-        }
+        });
     }
     return any;
 }

@@ -45,10 +45,10 @@ private:
     {
         int offset = 0;
         int length = 0;
-        bool extra = false;  // offset and length point into m_extra: rewritten or added
         int block = 0;
         int keyBegin = 0;  // raw key, relative to the line's start
         int keyLength = 0;
+        bool extra = false;  // offset and length point into m_extra: rewritten or added
         bool key = false;
         bool plainKey = false;  // no escapes: raw bytes are the key
         bool removed = false;
@@ -59,17 +59,34 @@ private:
         int header = -1;
         int nextSameName = -1;
         int liveKeys = 0;
-        QVector<int> lines;
+        // Lines as loaded are a run of ids; added keys go in after one of them.
+        int first = 0;
+        int count = 0;
+        int insertAt = -1;
+        QVector<int> inserted;
         bool removed = false;
         bool added = false;
     };
+
+    template<typename F>
+    void forEachLine(const Block &block, F f) const
+    {
+        int i = 0;
+        for (; i <= block.insertAt && i < block.count; ++i)
+            f(block.first + i);
+        for (int id : block.inserted)
+            f(id);
+        for (; i < block.count; ++i)
+            f(block.first + i);
+    }
 
     QByteArray rawLine(int id) const;
     QByteArray rawKey(const Line &line) const;
     QString keyOf(const Line &line) const;
     bool keyEquals(const Line &line, const QString &key) const;
     bool keyStartsWith(const Line &line, const QString &prefix) const;
-    int findLine(const QString &path) const;
+    // sectionBlock: the last block of the section before the first slash, or -1.
+    int findLine(const QString &path, int *sectionBlock = nullptr) const;
     void removeLine(int id);
     void removeBlock(int id);
     int newBlock(const QString &name);
