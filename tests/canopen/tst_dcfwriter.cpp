@@ -34,6 +34,8 @@ private slots:
     void valueEscaping_data();
     void valueEscaping();
     void corpusRoundTrip();
+    void oddLayouts_data();
+    void oddLayouts();
 
 private:
     QString writeSheet(const QByteArray &text);
@@ -593,6 +595,53 @@ void tst_DCFWriter::corpusRoundTrip()
         }
         QVERIFY2(readAll(file) == withoutValues(original), qPrintable(name));
     }
+}
+
+void tst_DCFWriter::oddLayouts_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::addColumn<QString>("key");  // what QSettings must read afterwards
+    QTest::addColumn<QString>("value");
+    // Edits: a value on 0x1A00 sub 1 and FileInfo/X = 3.
+    QTest::newRow("section in two pieces: the later piece takes the key")
+        << QByteArray("[1a00sub1]\nA=1\n[FileInfo]\nX=1\n[1a00sub1]\nC=2\n\n")
+        << QByteArray("[1a00sub1]\nA=1\n[FileInfo]\nX=3\n[1a00sub1]\nC=2\nParameterValue=7\n\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("repeated key: the one read is rewritten")
+        << QByteArray("[FileInfo]\nX=1\nX=2\n[1a00sub1]\nA=1")
+        << QByteArray("[FileInfo]\nX=1\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n")
+        << "FileInfo/X" << "3";
+    QTest::newRow("keys outside sections and spaced keys kept")
+        << QByteArray("X=0\n[FileInfo]\n  X  =  1  ; old\n[1a00sub1]\nA=1\n; tail comment\n")
+        << QByteArray("X=0\n[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n; tail comment\n")
+        << "X" << "0";
+    QTest::newRow("General section holds keys outside sections")
+        << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\n")
+        << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "X" << "5";
+    QTest::newRow("empty section gets no value")
+        << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=1\n")
+        << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "<absent>";
+}
+
+void tst_DCFWriter::oddLayouts()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QByteArray, expected);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    const QString file = writeSheet(input);
+    {
+        DCFWriter writer;
+        QVERIFY(writer.setDCFFile(file));
+        writer.setParameterValue(0x1A00, 1, "7", "");
+        writer.updateOtherSettings("FileInfo", "X", "3");
+    }
+    QCOMPARE(readAll(file), expected);
+    QCOMPARE(valueOf(file, key), value);
+    QCOMPARE(valueOf(file, "FileInfo/X"), QStringLiteral("3"));
 }
 
 QTEST_GUILESS_MAIN(tst_DCFWriter)
