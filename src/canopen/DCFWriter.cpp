@@ -4,7 +4,6 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 #include <vector>
@@ -16,11 +15,18 @@ namespace {
 class SectionIndex
 {
 public:
+    // All spellings of one name regardless of case; `first` sorts first.
+    struct Spellings
+    {
+        QString first;
+        QStringList more;  // rare: the file spells one section several ways
+
+        bool has(const QString &name) const { return first == name || more.contains(name); }
+    };
+
     void reset(const QStringList &names)
     {
-        m_names.clear();
         m_byFold.clear();
-        m_names.reserve(names.size());
         m_byFold.reserve(names.size());
         for (const QString &name : names)
             add(name);
@@ -28,52 +34,45 @@ public:
 
     void add(const QString &name)
     {
-        if (name.isEmpty() || m_names.contains(name))
+        if (name.isEmpty())
             return;
-        m_names.insert(name);
-        Spellings &spellings = m_byFold[name.toCaseFolded()];
-        if (spellings.count++ == 0 || name < spellings.first)
-            spellings.first = name;
+        auto it = m_byFold.find(name.toCaseFolded());
+        if (it == m_byFold.end()) {
+            m_byFold.insert(name.toCaseFolded(), Spellings{ name, {} });
+        } else if (!it->has(name)) {
+            if (name < it->first) {
+                it->more.append(it->first);
+                it->first = name;
+            } else {
+                it->more.append(name);
+            }
+        }
     }
 
     void remove(const QString &name)
     {
-        if (!m_names.remove(name))
+        auto it = m_byFold.find(name.toCaseFolded());
+        if (it == m_byFold.end() || !it->has(name))
             return;
-        const QString folded = name.toCaseFolded();
-        auto it = m_byFold.find(folded);
-        if (it == m_byFold.end())
-            return;
-        if (--it->count == 0) {
+        if (it->first != name) {
+            it->more.removeOne(name);
+        } else if (it->more.isEmpty()) {
             m_byFold.erase(it);
-            return;
-        }
-        if (it->first != name)
-            return;
-        // Rare: several spellings of one section. Find the next first one.
-        it->first.clear();
-        for (const QString &other : qAsConst(m_names)) {
-            if (other.toCaseFolded() == folded && (it->first.isEmpty() || other < it->first))
-                it->first = other;
+        } else {
+            auto next = std::min_element(it->more.begin(), it->more.end());
+            it->first = *next;
+            it->more.erase(next);
         }
     }
 
-    bool contains(const QString &name) const { return m_names.contains(name); }
-
-    // The first spelling in the sorted section list that matches regardless of case.
-    QString firstMatch(const QString &name) const
+    // The spellings that match the name regardless of case, or null.
+    const Spellings *find(const QString &name) const
     {
         const auto it = m_byFold.constFind(name.toCaseFolded());
-        return it == m_byFold.constEnd() ? QString() : it->first;
+        return it == m_byFold.constEnd() ? nullptr : &*it;
     }
 
 private:
-    struct Spellings
-    {
-        QString first;
-        int count = 0;
-    };
-    QSet<QString> m_names;
     QHash<QString, Spellings> m_byFold;
 };
 
@@ -244,18 +243,18 @@ QString DCFWriter::existingSection(unsigned short index, unsigned char subIndex)
 {
     const QString idx = tr("%1").arg(index, 4, 16, QLatin1Char('0'));
     const QString sub = QString::number(subIndex, 16);
-    QString candidate = tr("%1sub%2").arg(idx, sub);
-    if (!d->sections.contains(candidate)) {
-        candidate = idx.toUpper() + tr("sub%2").arg(sub.toUpper());
-        // A VAR object has no sub sections: its value lives in the index section.
-        if (!d->sections.contains(candidate) && subIndex == 0) {
-            candidate = idx;
-            if (!d->sections.contains(candidate))
-                candidate = idx.toUpper();
-        }
-    }
-    // The first spelling regardless of case; none means the candidate is absent too.
-    return d->sections.firstMatch(candidate);
+    // Exact spellings first, then the first spelling regardless of case. Both
+    // sub spellings share one entry of the index, so one lookup serves them.
+    const QString lower = tr("%1sub%2").arg(idx, sub);
+    const SectionIndex::Spellings *subSpellings = d->sections.find(lower);
+    if (subSpellings && (subSpellings->has(lower)
+                         || subSpellings->has(idx.toUpper() + tr("sub%2").arg(sub.toUpper()))))
+        return subSpellings->first;
+    if (subIndex != 0)
+        return subSpellings ? subSpellings->first : QString();
+    // A VAR object has no sub sections: its value lives in the index section.
+    const SectionIndex::Spellings *varSpellings = d->sections.find(idx);
+    return varSpellings ? varSpellings->first : QString();
 }
 
 bool DCFWriter::setParameterValue(unsigned short index, unsigned char subIndex, QString value,
@@ -282,12 +281,12 @@ bool DCFWriter::setDenotation(unsigned short index, unsigned char subIndex, QStr
 
 bool DCFWriter::existIndex(unsigned short index)
 {
-    return !d->sections.firstMatch(indexName(index)).isEmpty();
+    return d->sections.find(indexName(index)) != nullptr;
 }
 
 bool DCFWriter::existSub(unsigned short index, unsigned char subIndex)
 {
-    return !d->sections.firstMatch(subName(index, subIndex)).isEmpty();
+    return d->sections.find(subName(index, subIndex)) != nullptr;
 }
 
 void DCFWriter::updateOptionalObjects(QList<unsigned short> indices)

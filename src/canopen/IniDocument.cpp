@@ -574,23 +574,24 @@ QStringList IniDocument::allKeys() const
 
 QStringList IniDocument::childGroups() const
 {
-    QSet<QString> groups;
+    QStringList groups;
+    groups.reserve(int(m_blocks.size()));
     for (const Block &block : m_blocks) {
         if (block.removed || block.liveKeys == 0)
             continue;
         if (!block.name.isEmpty()) {
-            groups.insert(firstSegment(block.name));
+            groups.append(block.name.contains(QLatin1Char('/')) ? firstSegment(block.name) : block.name);
             continue;
         }
         forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (line.key && !line.removed && keyOf(line).contains(QLatin1Char('/')))
-                groups.insert(firstSegment(keyOf(line)));
+                groups.append(firstSegment(keyOf(line)));
         });
     }
-    QStringList sorted = groups.values();
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
+    std::sort(groups.begin(), groups.end());
+    groups.erase(std::unique(groups.begin(), groups.end()), groups.end());
+    return groups;
 }
 
 bool IniDocument::contains(const QString &path) const
