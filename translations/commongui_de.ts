@@ -62,6 +62,63 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     </message>
 </context>
 <context>
+    <name>ConciseDcfCreator</name>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: data type &quot;%2&quot; is not supported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Truncated concise DCF: %n byte(s), no entry count</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Inconsistent concise DCF: %1 entries cannot fit in %2 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Truncated concise DCF: entry %1 of %2 is cut short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Truncated concise DCF: entry %1 (0x%2sub%3) declares %4 bytes, %5 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inconsistent concise DCF: %1 bytes after the last entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DCFWriter</name>
+    <message>
+        <source>%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1sub%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sub%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>HelpViewer</name>
     <message>
         <source>Help</source>
@@ -107,6 +164,37 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     </message>
 </context>
 <context>
+    <name>QHexEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TipOfTheDay</name>
     <message>
         <source>Tip of the day</source>
@@ -131,6 +219,32 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Update Check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Query for update has failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Query for update successful.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>newUpdateChecker</name>
+    <message>
+        <source>Query for update has failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Query for update successful.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
