@@ -70,7 +70,7 @@ int main(int argc, char **argv)
     struct Case { const char *name; QString text; };
     const Case cases[] = {
         { "search all, 1M rows, 4 hits (ms)", QStringLiteral("999999  0x") },
-        { "search all, 1M rows, 1% hits (ms)", QStringLiteral("b  8  0a 00") },
+        { "search all, 1M rows, 125k hits selected (ms)", QStringLiteral("TPDO1") },
     };
     for (const Case &c : cases) {
         double ours = 1e300, peer = 1e300;
@@ -83,7 +83,9 @@ int main(int argc, char **argv)
             timer.start();
             search.searchAllOccurrence(c.text);
             ours = qMin(ours, timer.nsecsElapsed() / 1e6);
-            ourHits = view.selectionModel()->selectedRows().size();
+            ourHits = 0;  // selectedRows() would be quadratic here
+            for (const QItemSelectionRange &range : view.selectionModel()->selection())
+                ourHits += range.height();
 
             timer.restart();
             peerHits = bareLoop(model, c.text);

@@ -258,7 +258,9 @@ void GenericViewSearch::handleFoundIndices()
                                             model->index(index.row(), lastColumn, parent)));
     }
     m_view->setUpdatesEnabled(true);
-    selection->select(gathered, flags);
+    // The gathered ranges already span whole rows; letting the model widen them
+    // again merges range by range, quadratic in the number of hits.
+    selection->select(gathered, QItemSelectionModel::Select | QItemSelectionModel::Current);
     m_view->setFocus(Qt::OtherFocusReason);
 }
 
