@@ -32,6 +32,7 @@ private slots:
     void reloadAfterChange_data();
     void reloadAfterChange();
     void fontSizeUpTwoDownOne();
+    void textSizeAppliesToAllText();
     void searchLine();
     void openFolder();
     void corpus();
@@ -160,6 +161,22 @@ void tst_FileViewerDialog::fontSizeUpTwoDownOne()
     QCOMPARE(text->font().pointSizeF(), before + 2);
     QTest::keyClick(text, Qt::Key_Minus, Qt::ControlModifier);
     QCOMPARE(text->font().pointSizeF(), before + 1);
+}
+
+void tst_FileViewerDialog::textSizeAppliesToAllText()
+{
+    const QString path = write(m_dir.filePath("size.c"), "int a;\nchar b;\n");
+    FileViewerDialog dialog(path);
+    write(path, "long c;\nshort d;\n");  // read again by setTextSize
+
+    dialog.setTextSize(20.5);
+
+    QTextCursor cursor(viewer(dialog)->document());
+    QCOMPARE(viewer(dialog)->toPlainText(), QString("long c;\nshort d;\n"));
+    for (int position : { 1, 5, 10, 15 }) {
+        cursor.setPosition(position);
+        QCOMPARE(cursor.charFormat().fontPointSize(), 20.5);
+    }
 }
 
 void tst_FileViewerDialog::searchLine()
