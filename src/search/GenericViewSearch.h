@@ -15,8 +15,8 @@ class QProgressDialog;
 class QPushButton;
 
 // Text search over the rows of any item view. The model answers role 0x12345
-// of column 0 with the text to search. The view and the progress dialog must
-// outlive this object; the line edit and the button may go at any time.
+// of column 0 with the text to search. The view must outlive this object; the
+// line edit and the button may go at any time.
 class COMMONGUI_EXPORT GenericViewSearch : public QObject
 {
     Q_OBJECT
@@ -64,8 +64,6 @@ public slots:
     void onSearchAll();
 
 private:
-    bool matches(const QModelIndex &index, const QString &text) const;
-
     QPointer<QLineEdit> m_lineEdit;
     QPointer<QPushButton> m_findButton;
     QPointer<QProgressDialog> m_progressDialog;
