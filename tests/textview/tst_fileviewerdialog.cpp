@@ -31,6 +31,7 @@ private slots:
     void unreadableFile();
     void reloadAfterChange_data();
     void reloadAfterChange();
+    void everyNotificationReloads();
     void fontSizeUpTwoDownOne();
     void textSizeAppliesToAllText();
     void searchLine();
@@ -146,6 +147,23 @@ void tst_FileViewerDialog::reloadAfterChange()
     QCOMPARE(viewer(dialog)->toPlainText().size() > expected.size(), !changed.contains('\0'));
     QCOMPARE(bar->value(), 0);
     QCOMPARE(viewer(dialog)->textCursor().position(), 0);
+}
+
+void tst_FileViewerDialog::everyNotificationReloads()
+{
+    const QString path = write(m_dir.filePath("burst.c"), "x\n");
+    FileViewerDialog dialog(path);
+    QSignalSpy changed(viewer(dialog), &QTextEdit::textChanged);
+    dialog.setTextSize(10);  // one reload, to learn what one reload emits
+    const int perReload = changed.count();
+    QVERIFY(perReload > 0);
+    changed.clear();
+
+    // Three notifications in a burst are not merged: three reloads follow.
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(QMetaObject::invokeMethod(&dialog, "fileModified", Q_ARG(QString, path)));
+    QCOMPARE(changed.count(), 0);
+    QTRY_COMPARE(changed.count(), 3 * perReload);
 }
 
 void tst_FileViewerDialog::fontSizeUpTwoDownOne()
