@@ -83,8 +83,10 @@ void GenericViewSearch::searchSingleOccurrence(QString text)
     m_showProgress = false;
     m_lastSearchText.clear();
     QTimer::singleShot(200, this, &GenericViewSearch::checkShowProgressBar);
+    const QPointer<GenericViewSearch> self(this);
     searchThroughRows(text, 1, start, false);
-    handleFoundIndex();
+    if (self)
+        handleFoundIndex();
 }
 
 void GenericViewSearch::searchAllOccurrence(QString text)
@@ -105,7 +107,10 @@ void GenericViewSearch::searchAllOccurrence(QString text)
         QModelIndex first;
         if (m_view && m_view->model())
             first = m_view->model()->index(0, 0);
+        const QPointer<GenericViewSearch> self(this);
         searchThroughRows(text, 1, first, true);
+        if (!self)
+            return;
     }
     handleFoundIndices();
 }
@@ -117,6 +122,7 @@ void GenericViewSearch::searchThroughRows(QString text, unsigned char rowStep, Q
         return;
     // Keep the model alive across the event processing below.
     QPointer<QAbstractItemModel> model = m_view->model();
+    const QPointer<GenericViewSearch> self(this);
     m_searching = true;
     const int rowCount = model->rowCount();
     const int step = rowStep == 0 ? 1 : rowStep;  // a zero step would never end
@@ -153,6 +159,8 @@ void GenericViewSearch::searchThroughRows(QString text, unsigned char rowStep, Q
     for (;;) {
         if (r % 1000 == 0) {
             QCoreApplication::processEvents();
+            if (!self)
+                return;  // deleted by an event handler: touch nothing
             if (!model || !m_view)
                 break;
         }
@@ -234,6 +242,8 @@ void GenericViewSearch::handleFoundIndices()
         return;
     QItemSelectionModel *selection = m_view->selectionModel();
     const QAbstractItemModel *model = m_view->model();
+    if (!model)
+        return;
     const auto flags = QItemSelectionModel::Select | QItemSelectionModel::Current
                        | QItemSelectionModel::Rows;
     selection->clearSelection();

@@ -96,6 +96,7 @@ private slots:
     void reentryIgnored_data();
     void reentryIgnored();
     void survivesDeletedWidgets();
+    void deletedDuringScan();
 };
 
 static const QStringList rows = { "alpha", "Beta", "gamma", "beta two", "delta" };
@@ -434,6 +435,19 @@ void tst_GenericViewSearch::survivesDeletedWidgets()
     search.onSearchNext();  // red on a deleted button: nothing to colour
     search.searchAllOccurrence("beta");
     QCOMPARE(f.selectedTexts(), (QStringList{ "Beta", "beta two" }));
+}
+
+void tst_GenericViewSearch::deletedDuringScan()
+{
+    Fixture f(false);
+    f.addRows(rows);
+    GenericViewSearch *search = f.search.release();
+    QSignalSpy stop(search, &GenericViewSearch::stopAutoscroll);
+    // An event handler closes the window that owns the search while it scans.
+    QTimer::singleShot(0, [search] { delete search; });
+    search->searchAllOccurrence("beta");
+    QCOMPARE(stop.count(), 0);
+    QCOMPARE(f.selectedTexts(), QStringList());
 }
 
 QTEST_MAIN(tst_GenericViewSearch)
