@@ -30,9 +30,9 @@ FileViewerDialog::FileViewerDialog(QString filePath, QWidget *parent)
         setWindowTitle(tr("File Viewer - ") + last.split(QLatin1Char('.')).first());
     }
 
-    if (QFileInfo(filePath).isReadable()) {
-        QFile file(filePath);
-        file.open(QIODevice::ReadOnly | QIODevice::Text);
+    QFile file(filePath);
+    // A folder passes the readable check but cannot be opened: same message.
+    if (QFileInfo(filePath).isReadable() && file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         QTextStream stream(&file);
         stream.setCodec("UTF-8");
         ui->txtViewer->setText(stream.readAll());

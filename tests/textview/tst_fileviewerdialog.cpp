@@ -28,6 +28,7 @@ private slots:
     void title();
     void highlighterBySuffix_data();
     void highlighterBySuffix();
+    void unreadableFile_data();
     void unreadableFile();
     void reloadAfterChange_data();
     void reloadAfterChange();
@@ -107,12 +108,23 @@ void tst_FileViewerDialog::highlighterBySuffix()
     QCOMPARE(viewer(dialog)->toPlainText(), QString("int main(void);\n"));
 }
 
+void tst_FileViewerDialog::unreadableFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("highlighter");
+    QTest::newRow("missing file") << "missing/file.c" << "AnsiCHighlighter";  // set up all the same
+    QTest::newRow("folder") << "folder.dbc" << "DBCHighlighter";
+}
+
 void tst_FileViewerDialog::unreadableFile()
 {
-    const QString path = m_dir.filePath("missing/file.c");
+    QFETCH(QString, name);
+    QFETCH(QString, highlighter);
+    QDir(m_dir.path()).mkdir("folder.dbc");
+    const QString path = m_dir.filePath(name);
     FileViewerDialog dialog(path);
     QCOMPARE(viewer(dialog)->toPlainText(), QString("Error %1 is not readable.").arg(path));
-    QCOMPARE(highlighterOf(dialog), QString("AnsiCHighlighter"));  // set up all the same
+    QCOMPARE(highlighterOf(dialog), highlighter);
 }
 
 void tst_FileViewerDialog::reloadAfterChange_data()
