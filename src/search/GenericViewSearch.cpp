@@ -122,6 +122,7 @@ void GenericViewSearch::searchThroughRows(QString text, unsigned char rowStep, Q
         return;
     // Keep the model alive across the event processing below.
     QPointer<QAbstractItemModel> model = m_view->model();
+    watchModel(model);
     const QPointer<GenericViewSearch> self(this);
     m_searching = true;
     const int rowCount = model->rowCount();
@@ -206,6 +207,35 @@ void GenericViewSearch::searchThroughRows(QString text, unsigned char rowStep, Q
         }
     }
     m_searching = false;
+}
+
+// Kept hits are plain indices: once rows move or go they point nowhere, so a
+// change of the model's structure forgets them and the next search scans again.
+void GenericViewSearch::watchModel(QAbstractItemModel *model)
+{
+    if (model == m_watchedModel)
+        return;
+    if (m_watchedModel)
+        disconnect(m_watchedModel, nullptr, this, nullptr);
+    m_watchedModel = model;
+    if (!model)
+        return;
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &GenericViewSearch::forgetHits);
+    connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, &GenericViewSearch::forgetHits);
+    // Rows appended at the end, as a live trace does, leave every kept index valid.
+    connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [this, model](const QModelIndex &parent, int first) {
+                if (first < model->rowCount(parent))
+                    forgetHits();
+            });
+    connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &GenericViewSearch::forgetHits);
+    connect(model, &QAbstractItemModel::rowsAboutToBeMoved, this, &GenericViewSearch::forgetHits);
+}
+
+void GenericViewSearch::forgetHits()
+{
+    m_foundIndices.clear();
+    m_lastSearchText.clear();
 }
 
 void GenericViewSearch::handleFoundIndex()

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QString>
 
+class QAbstractItemModel;
 class QAbstractItemView;
 class QAction;
 class QLineEdit;
@@ -64,6 +65,9 @@ public slots:
     void onSearchAll();
 
 private:
+    void watchModel(QAbstractItemModel *model);
+    void forgetHits();
+
     QPointer<QLineEdit> m_lineEdit;
     QPointer<QPushButton> m_findButton;
     QPointer<QProgressDialog> m_progressDialog;
@@ -76,4 +80,5 @@ private:
     int m_lastMatchRow = 0;
     bool m_showProgress = false;
     bool m_searchChildren = false;
+    QPointer<QAbstractItemModel> m_watchedModel;
 };

@@ -86,6 +86,8 @@ private slots:
     void searchAll();
     void nextAfterAll_data();
     void nextAfterAll();
+    void hitsForgottenWhenRowsChange_data();
+    void hitsForgottenWhenRowsChange();
     void children_data();
     void children();
     void colourIsReset();
@@ -231,6 +233,44 @@ void tst_GenericViewSearch::nextAfterAll()
         QCOMPARE(f.selectedTexts(), QStringList{ expected });
         QCOMPARE(f.button.styleSheet(), style);
     }
+}
+
+void tst_GenericViewSearch::hitsForgottenWhenRowsChange_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("expected");
+    // A new scan from the top finds row 0; stale hits would pick a later row.
+    QTest::newRow("row removed: scans again") << "remove" << "x1";
+    QTest::newRow("row inserted above: scans again") << "insert" << "x1";
+    QTest::newRow("model reset: scans again") << "reset" << "x1";
+    QTest::newRow("row appended: kept hits used") << "append" << "x3";
+}
+
+void tst_GenericViewSearch::hitsForgottenWhenRowsChange()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, expected);
+    Fixture f(false);
+    f.addRows({ "x1", "y", "x3", "x4" });
+    f.edit.setText("x");
+    f.search->onSearchAll();
+    f.model.item(2)->setData("x2", SearchRole);  // seen only by a new scan
+    f.view->selectionModel()->clearSelection();
+    if (change == "remove") {
+        f.model.removeRow(1);
+    } else if (change == "insert") {
+        f.model.insertRow(1, item("y0"));
+    } else if (change == "reset") {
+        f.model.clear();
+        f.addRows({ "x1", "y", "x2", "x4" });
+    } else {
+        f.addRows({ "z" });
+        f.model.item(2)->setData("x3", SearchRole);
+    }
+
+    f.search->onSearchNext();
+
+    QCOMPARE(f.selectedTexts(), QStringList{ expected });
 }
 
 void tst_GenericViewSearch::children_data()
