@@ -1,6 +1,7 @@
 // A small CANopen tool of the family, built on CommonGUI like any other.
 #include "DemoWindow.h"
 
+#include "CommonGUITranslator.h"
 #include "DebugCrashHandler.h"
 #include "KorvilBaseApplication.h"
 
@@ -38,6 +39,9 @@ int main(int argc, char **argv)
                                   QStringLiteral("code"));
     parser.addOption(lang);
     parser.process(app);
+    CommonGUITranslator translator;
+    if (parser.isSet(lang) && translator.loadLanguage(parser.value(lang)))
+        app.installTranslator(&translator);
 
     DemoWindow window(app.arguments());
     if (parser.isSet(screenshots)) {

@@ -29,7 +29,12 @@ DebugCrashHandler::DebugCrashHandler(QObject *parent)
     s_sessionStamp = QDateTime::currentDateTime().toString(QStringLiteral("yyMMdd_hhmmss"));
 }
 
-DebugCrashHandler::~DebugCrashHandler() = default;
+DebugCrashHandler::~DebugCrashHandler()
+{
+    // finish() has closed the log by now; free what it leaves behind.
+    delete m_logStream;
+    delete m_logFile;
+}
 
 void DebugCrashHandler::setDebugHandlingType(DebugHandlingType type)
 {

@@ -24,7 +24,7 @@ public:
     };
 
     explicit DebugCrashHandler(QObject *parent);
-    // Neither closes nor deletes the log: that is finish()'s work.
+    // Closing and removing the log is finish()'s work; this only frees memory.
     ~DebugCrashHandler() override;
 
     void setDebugHandlingType(DebugHandlingType type);

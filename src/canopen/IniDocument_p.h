@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+#include <vector>
+
+// An INI text edited in place. Keys and sections are read the way QSettings
+// reads them, values are written the way it writes them, and every line that
+// is not edited is kept byte for byte.
+class IniDocument
+{
+public:
+    void parse(const QByteArray &bytes);
+    QByteArray toBytes() const;
+
+    bool load(const QString &fileName, QString *error);
+    // Replaces the file only once the new text is completely written.
+    bool save(const QString &fileName, QString *error) const;
+
+    QStringList allKeys() const;
+    QStringList childGroups() const;
+    bool contains(const QString &path) const;
+    // The value as text, unquoted and unescaped; commas do not split it.
+    QString value(const QString &path, const QString &defaultValue = QString()) const;
+    void setValue(const QString &path, const QString &value);
+    // A key, or a whole group with all its keys; true if anything went.
+    bool remove(const QString &path);
+    // Drops every key whose path the predicate accepts; true if any went.
+    bool removeKeysIf(const std::function<bool(const QString &)> &accept);
+
+    static QByteArray escapedKey(const QString &key);
+    static QByteArray escapedValue(const QString &value);
+    static QString unescapedKey(const QByteArray &raw);
+    static QString unescapedValue(const QByteArray &raw);
+
+private:
+    // Lines point into the loaded text until they are rewritten: no copy per line.
+    struct Line
+    {
+        int offset = 0;
+        int length = 0;
+        int block = 0;
+        int keyBegin = 0;  // raw key, relative to the line's start
+        int keyLength = 0;
+        bool extra = false;  // offset and length point into m_extra: rewritten or added
+        bool key = false;
+        bool plainKey = false;  // no escapes: raw bytes are the key
+        bool removed = false;
+    };
+    struct Block
+    {
+        QString name;  // "" for keys outside any section
+        int header = -1;
+        int nextSameName = -1;
+        int liveKeys = 0;
+        // Lines as loaded are a run of ids; added keys go in after one of them.
+        int first = 0;
+        int count = 0;
+        int insertAt = -1;
+        QVector<int> inserted;
+        bool removed = false;
+        bool added = false;
+    };
+
+    template<typename F>
+    void forEachLine(const Block &block, F f) const
+    {
+        int i = 0;
+        for (; i <= block.insertAt && i < block.count; ++i)
+            f(block.first + i);
+        for (int id : block.inserted)
+            f(id);
+        for (; i < block.count; ++i)
+            f(block.first + i);
+    }
+
+    QByteArray rawLine(int id) const;
+    QByteArray rawKey(const Line &line) const;
+    QString keyOf(const Line &line) const;
+    bool keyEquals(const Line &line, const QString &key) const;
+    bool keyStartsWith(const Line &line, const QString &prefix) const;
+    // sectionBlock: the last block of the section before the first slash, or -1.
+    int findLine(const QString &path, int *sectionBlock = nullptr) const;
+    void removeLine(int id);
+    void removeBlock(int id);
+    int newBlock(const QString &name);
+    void setText(Line &line, const QByteArray &text);
+    const char *base(const Line &line) const;
+
+    QByteArray m_source;
+    QByteArray m_eol = "\n";
+    bool m_bom = false;
+    std::vector<Line> m_lines;
+    std::vector<Block> m_blocks;
+    QByteArray m_extra;  // text of rewritten and added lines, appended
+    QHash<QString, int> m_firstBlock;  // section name -> first block of that name
+    QSet<QString> m_slashedSections;  // section names holding an escaped slash
+};

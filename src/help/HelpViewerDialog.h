@@ -1,0 +1,34 @@
+#pragma once
+
+#include "commongui_export.h"
+
+#include <QDialog>
+
+namespace Ui { class HelpViewerDialog; }
+
+// A light help window: one HTML file, scrolled to a topic anchor. The topic
+// "Manual" opens the PDF manual in the desktop's viewer instead.
+class COMMONGUI_EXPORT HelpViewerDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit HelpViewerDialog(QWidget *parent = nullptr);
+    ~HelpViewerDialog() override;
+
+    // Scrolls to the anchor `topic` and shows the dialog (non-modal).
+    void setTopic(const QString &topic);
+    // Returns false, keeping the current page, when `path` does not exist.
+    bool setFile(const QString &path);
+    void setTitle(const QString &title);
+    // Absolute path of the PDF that showManual() opens.
+    void setManualFile(const QString &path);
+    bool showManual();
+
+private slots:
+    void on_pushButton_clicked();
+
+private:
+    Ui::HelpViewerDialog *ui;
+    QString manualFile;
+};

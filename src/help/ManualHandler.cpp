@@ -1,0 +1,80 @@
+#include "ManualHandler.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QUrl>
+
+const QMap<QString, QString> ManualHandler::mFileNameToDisplayName = {
+    { QStringLiteral("handbook_tarvet_de"), QStringLiteral("Handbuch (de)") },
+    { QStringLiteral("handbook_tarvet_en"), QStringLiteral("Manual (en)") },
+    { QStringLiteral("manual_tarvet_de"), QStringLiteral("Benutzerhandbuch (de)") },
+    { QStringLiteral("manual_tarvet_en"), QStringLiteral("User Manual (en)") },
+    { QStringLiteral("extension_tarvet_de"), QStringLiteral("Erweiterungshandbuch - Vendor (de)") },
+    { QStringLiteral("extension_tarvet_en"), QStringLiteral("Extension Manual - Vendor (en)") },
+    { QStringLiteral("handbook_brisca_de"), QStringLiteral("Handbuch Brisca (de)") },
+    { QStringLiteral("handbook_brisca_en"), QStringLiteral("Brisca Manual (en)") },
+    { QStringLiteral("extension_brisca_de"), QStringLiteral("Erweiterungshandbuch - Brisca (de)") },
+    { QStringLiteral("extension_brisca_en"), QStringLiteral("Extension Manual - Brisca (en)") },
+    { QStringLiteral("scripting_reference_de"), QStringLiteral("Skript-API (de)") },
+    { QStringLiteral("scripting_reference"), QStringLiteral("Script API (en)") },
+};
+
+ManualHandler::ManualHandler(QObject *parent)
+    : QObject(parent)
+    , manualsMenu(nullptr)
+{
+    createMenu();
+}
+
+void ManualHandler::createMenu()
+{
+    manualsMenu = new QMenu(QStringLiteral("Manuals"));
+    m_menuHandedOut = false;
+    // The host may free the menu while the handler lives on.
+    connect(manualsMenu, &QObject::destroyed, this, [this] { manualsMenu = nullptr; });
+}
+
+ManualHandler::~ManualHandler()
+{
+    qDeleteAll(m_entries);
+    if (!m_menuHandedOut)
+        delete manualsMenu;
+}
+
+void ManualHandler::setManualsPath(const QString &path)
+{
+    manualsPath = path;
+}
+
+QMenu *ManualHandler::getManualsMenu()
+{
+    if (!manualsMenu)
+        createMenu();
+    manualsMenu->clear();
+    qDeleteAll(m_entries);
+    m_entries.clear();
+
+    const QFileInfoList entries = QDir(manualsPath).entryInfoList({ QStringLiteral("*.pdf") });
+    for (const QFileInfo &entry : entries) {
+        const QString baseName = entry.baseName();
+        const QString title = mFileNameToDisplayName.value(baseName, baseName);
+        auto action = new QAction(title);
+        action->setData(entry.absoluteFilePath());
+        connect(action, &QAction::triggered, this, &ManualHandler::actionTriggered);
+        manualsMenu->addAction(action);
+        m_entries.append(action);
+    }
+    if (manualsMenu->actions().isEmpty())
+        return nullptr;
+    m_menuHandedOut = true;
+    return manualsMenu;
+}
+
+void ManualHandler::actionTriggered()
+{
+    if (auto action = qobject_cast<QAction *>(sender()))
+        QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + action->data().toString()));
+}

@@ -1,0 +1,151 @@
+#pragma once
+
+#include "commongui_export.h"
+
+#include <QAbstractScrollArea>
+#include <QByteArray>
+#include <QColor>
+
+class QHexEditPrivate;
+class QUndoStack;
+
+// An editable hex/ASCII view of a byte array: address, hex and character
+// columns, nibble-wise typing, overwrite and insert mode, selection, clipboard
+// and undo. Every edit, also through insert()/remove()/replace(), is an undo
+// command on undoStack(). Only the visible rows are laid out and painted, so
+// images of many megabytes stay responsive.
+class COMMONGUI_EXPORT QHexEdit : public QAbstractScrollArea
+{
+    Q_OBJECT
+    Q_PROPERTY(QByteArray data READ data WRITE setData NOTIFY dataChanged)
+    Q_PROPERTY(int addressOffset READ addressOffset WRITE setAddressOffset)
+    Q_PROPERTY(int addressWidth READ addressWidth WRITE setAddressWidth)
+    Q_PROPERTY(bool addressArea READ addressArea WRITE setAddressArea)
+    Q_PROPERTY(bool hexArea READ hexArea WRITE setHexArea)
+    Q_PROPERTY(bool asciiArea READ asciiArea WRITE setAsciiArea)
+    Q_PROPERTY(QColor addressAreaColor READ addressAreaColor WRITE setAddressAreaColor)
+    Q_PROPERTY(bool highlighting READ highlighting WRITE setHighlighting)
+    Q_PROPERTY(QColor highlightingColor READ highlightingColor WRITE setHighlightingColor)
+    Q_PROPERTY(QColor selectionColor READ selectionColor WRITE setSelectionColor)
+    Q_PROPERTY(bool overwriteMode READ overwriteMode WRITE setOverwriteMode NOTIFY overwriteModeChanged)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
+    Q_PROPERTY(int cursorPosition READ cursorPosition WRITE setCursorPosition)
+    Q_PROPERTY(int maxSize READ maxSize WRITE setMaxSize)
+    Q_PROPERTY(int bytesEnabled READ bytesEnabled WRITE setBytesEnabled)
+    Q_PROPERTY(bool modified READ isModified)
+
+public:
+    explicit QHexEdit(QWidget *parent = nullptr);
+    ~QHexEdit() override;
+
+    QByteArray data() const;
+    // Bytes shown and editable: the data size, cut to bytesEnabled().
+    int size() const;
+
+    int addressOffset() const;
+    void setAddressOffset(int offset);
+    // Minimum number of address digits, 0 to 6; other values are ignored.
+    int addressWidth() const;
+    void setAddressWidth(int width);
+
+    bool addressArea() const;
+    void setAddressArea(bool visible);
+    bool hexArea() const;
+    void setHexArea(bool visible);
+    bool asciiArea() const;
+    void setAsciiArea(bool visible);
+
+    QColor addressAreaColor() const;
+    void setAddressAreaColor(const QColor &color);
+    // Background of bytes changed since the last setData().
+    bool highlighting() const;
+    void setHighlighting(bool on);
+    QColor highlightingColor() const;
+    void setHighlightingColor(const QColor &color);
+    QColor selectionColor() const;
+    void setSelectionColor(const QColor &color);
+
+    bool overwriteMode() const;
+    bool isReadOnly() const;
+    void setReadOnly(bool readOnly);
+
+    // Byte index of the cursor (0 to size(); size() is the append position).
+    int cursorPosition() const;
+    void setCursorPosition(int position);
+    // The cursor's cell in viewport coordinates.
+    QRect cursorRect() const;
+
+    // Largest size typing and pasting may grow the data to; existing data is never cut.
+    int maxSize() const;
+    void setMaxSize(int size);
+    // Number of bytes that count as present; a larger count pads the data with zeros.
+    // Until set, it grows to the size of any data given to setData().
+    int bytesEnabled() const;
+    void setBytesEnabled(int count);
+
+    bool hasSelection() const;
+    int selectionStart() const;
+    // One past the last selected byte.
+    int selectionEnd() const;
+    void setSelection(int start, int length);
+    QByteArray selectedData() const;
+    // Hex dump of the lines holding the selection: address, hex and characters.
+    QString selectionToReadableString() const;
+    QString toReadableString() const;
+
+    // True when the byte was inserted or overwritten since the last setData().
+    bool isByteChanged(int index) const;
+    // False right after setData() and after undoing back to it.
+    bool isModified() const;
+    // Owned by the editor; cleared by setData().
+    QUndoStack *undoStack() const;
+
+    // Programmatic edits, undoable like typing; false when out of range or past maxSize().
+    bool insert(int index, const QByteArray &bytes);
+    bool remove(int index, int length);
+    bool replace(int index, const QByteArray &bytes);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public slots:
+    // Replaces the bytes, clears the change marks, the undo stack and the selection.
+    void setData(const QByteArray &data);
+    void setOverwriteMode(bool overwrite);
+    void undo();
+    void redo();
+    void selectAll();
+    void deselect();
+    void copy();
+    void cut();
+    void paste();
+    void ensureCursorVisible();
+
+signals:
+    // The cursor's address: its byte index plus addressOffset().
+    void currentAddressChanged(int address);
+    void currentSizeChanged(int size);
+    void dataChanged();
+    void overwriteModeChanged(bool overwriteMode);
+    void selectionChanged();
+    void undoAvailable(bool available);
+    void redoAvailable(bool available);
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    QHexEditPrivate *d;  // the viewport, owned by the scroll area
+    friend class QHexEditPrivate;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "commongui_export.h"
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QString>
+
+class QNetworkReply;
+
+// One query of "<update server>/versioninfo/<product>.info". The object deletes itself
+// once the reply has been evaluated: create it with new, call queryForUpdates, forget it.
+class COMMONGUI_EXPORT UpdateChecker : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UpdateChecker(QObject *parent = nullptr);
+
+    void queryForUpdates(QString productName, QString currentVersion, bool silent);
+
+signals:
+    // Silent mode only, when the server names a newer version.
+    void newVersion(QString message);
+
+public slots:
+    void replyFinished(QNetworkReply *reply);
+
+private:
+    void collect(QNetworkReply *reply);
+
+    QNetworkAccessManager manager;
+    QString productName;
+    QString title;
+    QString currentVersion;
+    bool silent = false;
+    QByteArray body;
+};

@@ -1,0 +1,155 @@
+#include "ManualHandler.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QMenu>
+#include <QtTest>
+
+class tst_ManualHandler : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void openUrl(const QUrl &url) { m_opened << url.toString(); }
+
+private slots:
+    void titles_data();
+    void titles();
+    void noManualsGivesNoMenu();
+    void refillDoesNotDuplicate();
+    void triggerOpensThePdf();
+    void titleTableShape();
+
+private:
+    QStringList m_opened;
+};
+
+static void touch(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("%PDF-1.4\n");
+}
+
+static QStringList entryTitles(QMenu *menu)
+{
+    QStringList titles;
+    for (QAction *action : menu->actions())
+        titles << action->text();
+    return titles;
+}
+
+void tst_ManualHandler::titles_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("titles");
+
+    QTest::newRow("known and unknown")
+            << QStringList { "handbook_tarvet_de.pdf", "notes.pdf" }
+            << QStringList { "Handbuch (de)", "notes" };
+    QTest::newRow("base name ends at the first dot")
+            << QStringList { "handbook_tarvet_de.old.pdf" } << QStringList { "Handbuch (de)" };
+    QTest::newRow("keys are case-sensitive")
+            << QStringList { "Handbook_Tarvet_DE.pdf" } << QStringList { "Handbook_Tarvet_DE" };
+    QTest::newRow("only pdf files")
+            << QStringList { "readme.txt", "extension_tarvet_en.pdf", "handbook_tarvet_en.pdf.txt" }
+            << QStringList { "Extension Manual - Vendor (en)" };
+    QTest::newRow("sorted by file name, not by title")
+            << QStringList { "scripting_reference.pdf", "handbook_tarvet_en.pdf", "Zeta.pdf", "alpha.pdf" }
+            << QStringList { "alpha", "Manual (en)", "Script API (en)", "Zeta" };
+}
+
+void tst_ManualHandler::titles()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, titles);
+
+    QTemporaryDir dir;
+    QVERIFY2(dir.isValid(), qPrintable(dir.errorString()));
+    for (const QString &file : qAsConst(files))
+        touch(dir.filePath(file));
+    ManualHandler handler;
+    handler.setManualsPath(dir.path());
+
+    QMenu *menu = handler.getManualsMenu();
+
+    QVERIFY(menu);
+    QCOMPARE(menu->title(), QStringLiteral("Manuals"));
+    QCOMPARE(entryTitles(menu), titles);
+    delete menu;
+}
+
+void tst_ManualHandler::noManualsGivesNoMenu()
+{
+    QTemporaryDir dir;
+    touch(dir.filePath(QStringLiteral("readme.txt")));
+    ManualHandler handler;
+    handler.setManualsPath(dir.path());
+    QCOMPARE(handler.getManualsMenu(), nullptr);
+    handler.setManualsPath(dir.filePath(QStringLiteral("missing")));
+    QCOMPARE(handler.getManualsMenu(), nullptr);
+}
+
+void tst_ManualHandler::refillDoesNotDuplicate()
+{
+    QTemporaryDir dir;
+    touch(dir.filePath(QStringLiteral("handbook_tarvet_de.pdf")));
+    touch(dir.filePath(QStringLiteral("handbook_tarvet_en.pdf")));
+    ManualHandler handler;
+    handler.setManualsPath(dir.path());
+
+    QMenu *first = handler.getManualsMenu();
+    QVERIFY(QFile::remove(dir.filePath(QStringLiteral("handbook_tarvet_en.pdf"))));
+    touch(dir.filePath(QStringLiteral("scripting_reference.pdf")));
+    QMenu *second = handler.getManualsMenu();
+
+    QCOMPARE(second, first);  // one menu, refilled
+    QCOMPARE(entryTitles(second), (QStringList { "Handbuch (de)", "Script API (en)" }));
+
+    // A host that frees the menu gets a new one next time.
+    delete second;
+    QMenu *third = handler.getManualsMenu();
+    QVERIFY(third);
+    QCOMPARE(entryTitles(third), (QStringList { "Handbuch (de)", "Script API (en)" }));
+    delete third;
+}
+
+void tst_ManualHandler::triggerOpensThePdf()
+{
+    QTemporaryDir dir;
+    touch(dir.filePath(QStringLiteral("manual_tarvet_en.pdf")));
+    ManualHandler handler;
+    handler.setManualsPath(dir.path());
+    QMenu *menu = handler.getManualsMenu();
+    QVERIFY(menu);
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    m_opened.clear();
+
+    menu->actions().first()->trigger();
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+
+    // "file:///" before an absolute path: the viewer gets four slashes.
+    QCOMPARE(m_opened, QStringList { "file:////" + dir.path().mid(1) + "/manual_tarvet_en.pdf" });
+    delete menu;
+}
+
+void tst_ManualHandler::titleTableShape()
+{
+    const QMap<QString, QString> &table = ManualHandler::mFileNameToDisplayName;
+    QVERIFY(table.size() >= 10);
+    QSet<QString> titles;
+    for (auto it = table.cbegin(); it != table.cend(); ++it) {
+        QVERIFY2(!it.key().contains(QLatin1Char('.')), qPrintable(it.key()));  // base names only
+        if (it.key().endsWith(QLatin1String("_de")))
+            QVERIFY2(it.value().endsWith(QLatin1String(" (de)")), qPrintable(it.value()));
+        else
+            QVERIFY2(it.value().endsWith(QLatin1String(" (en)")), qPrintable(it.value()));
+        titles.insert(it.value());
+    }
+    QCOMPARE(titles.size(), table.size());  // two manuals never share a menu title
+    QCOMPARE(table.value(QStringLiteral("extension_tarvet_de")),
+             QStringLiteral("Erweiterungshandbuch - Vendor (de)"));
+}
+
+QTEST_MAIN(tst_ManualHandler)
+#include "tst_manualhandler.moc"

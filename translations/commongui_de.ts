@@ -1,0 +1,136 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>CommonGUI library %1
+Built with Qt %2, running on Qt %3</source>
+        <translation>CommonGUI-Bibliothek %1
+Erstellt mit Qt %2, läuft mit Qt %3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>CalcoraDialog</name>
+    <message>
+        <source>Value Converter</source>
+        <translation>Werteumrechner</translation>
+    </message>
+    <message>
+        <source>Binary:</source>
+        <translation>Binär:</translation>
+    </message>
+    <message>
+        <source>0 and 1</source>
+        <translation>0 und 1</translation>
+    </message>
+    <message>
+        <source>Decimal:</source>
+        <translation>Dezimal:</translation>
+    </message>
+    <message>
+        <source>0 to 18446744073709551615</source>
+        <translation>0 bis 18446744073709551615</translation>
+    </message>
+    <message>
+        <source>Hexadecimal:</source>
+        <translation>Hexadezimal:</translation>
+    </message>
+    <message>
+        <source>for example ff or 0x1A2B</source>
+        <translation>zum Beispiel ff oder 0x1A2B</translation>
+    </message>
+    <message>
+        <source>Characters:</source>
+        <translation>Zeichen:</translation>
+    </message>
+    <message>
+        <source>for example AB</source>
+        <translation>zum Beispiel AB</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>HelpViewer</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+</context>
+<context>
+    <name>HelpViewerDialog</name>
+    <message>
+        <source>Brisca - Help</source>
+        <translation>Brisca - Hilfe</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QApplication</name>
+    <message>
+        <source>Out of memory</source>
+        <translation>Kein Speicher mehr</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>TipOfTheDay</name>
+    <message>
+        <source>Tip of the day</source>
+        <translation>Tipp des Tages</translation>
+    </message>
+    <message>
+        <source>Did you know ...?</source>
+        <translation>Wussten Sie schon ...?</translation>
+    </message>
+    <message>
+        <source>Show Tips on Startup</source>
+        <translation>Tipps beim Start anzeigen</translation>
+    </message>
+    <message>
+        <source>Previous Tip</source>
+        <translation>Vorheriger Tipp</translation>
+    </message>
+    <message>
+        <source>Next Tip</source>
+        <translation>Nächster Tipp</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+</TS>
