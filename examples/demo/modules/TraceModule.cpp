@@ -2,6 +2,7 @@
 #include "DemoModule.h"
 #include "DemoWindow.h"
 
+#include "CANopenTypes.h"
 #include "FileViewerDialog.h"
 #include "GenericViewSearch.h"
 
@@ -25,18 +26,32 @@
 
 namespace {
 
-// CANopen function codes by the top four bits of the 11-bit identifier.
-QString messageTypeName(quint16 cobId)
+// The CANopen message type of a frame by its identifier (and, for NMT error
+// control, its first byte), named by the library's table.
+QString messageTypeName(quint16 cobId, quint8 firstByte)
 {
-    static const char *const names[16] = {
-        "NMT", "SYNC/EMCY", "TIME", "TPDO1", "RPDO1", "TPDO2", "RPDO2", "TPDO3",
-        "RPDO3", "TPDO4", "RPDO4", "TSDO", "RSDO", "Unknown", "Heartbeat", "Unknown",
-    };
-    if (cobId == 0x080)
-        return QStringLiteral("SYNC");
-    if ((cobId >> 7) == 1)
-        return QStringLiteral("EMCY");
-    return QString::fromLatin1(names[(cobId >> 7) & 0xf]);
+    CANopen::MessageType type = CANopen::UNKNOWN;
+    if (cobId == 0x000)
+        type = CANopen::NMT;
+    else if (cobId == 0x080)
+        type = CANopen::SYNC;
+    else if (cobId > 0x080 && cobId < 0x100)
+        type = CANopen::EMCY;
+    else if (cobId == 0x100)
+        type = CANopen::TIME;
+    else if (cobId >= 0x180 && cobId < 0x580)
+        type = CANopen::PDO;
+    else if (cobId >= 0x580 && cobId < 0x600)
+        type = CANopen::SDO_RES;
+    else if (cobId >= 0x600 && cobId < 0x680)
+        type = CANopen::SDO_REQ;
+    else if (cobId >= 0x700 && cobId < 0x780)
+        type = firstByte == 0 ? CANopen::NMT_EC_BOOTUP : CANopen::NMT_EC;
+    else if (cobId == 0x7E4)
+        type = CANopen::LSS_RES;
+    else if (cobId == 0x7E5)
+        type = CANopen::LSS_REQ;
+    return messageTypeNames.value(type);
 }
 
 // A trace of generated frames: every row is computed when asked for, so a
@@ -66,7 +81,7 @@ public:
             return QVariant();
         const Frame f = frame(index.row());
         if (role == GenericViewSearch::SearchRole && index.column() == 0)
-            return QStringLiteral("%1 %2 %3 %4 %5").arg(time(f), id(f), messageTypeName(f.cobId)).arg(f.length).arg(bytes(f));
+            return QStringLiteral("%1 %2 %3 %4 %5").arg(time(f), id(f), messageTypeName(f.cobId, f.data[0])).arg(f.length).arg(bytes(f));
         if (role == Qt::TextAlignmentRole)
             return index.column() == Data ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignRight | Qt::AlignVCenter);
         if (role != Qt::DisplayRole)
@@ -74,7 +89,7 @@ public:
         switch (index.column()) {
         case Time: return time(f);
         case Identifier: return id(f);
-        case Type: return messageTypeName(f.cobId);
+        case Type: return messageTypeName(f.cobId, f.data[0]);
         case Length: return f.length;
         case Data: return bytes(f);
         }
@@ -108,7 +123,7 @@ private:
         for (int i = 0; i < f.length; ++i)
             f.data[i] = quint8((mix >> (i * 3)) + i * 17);
         if (f.cobId >= 0x700)
-            f.data[0] = 0x05;  // operational
+            f.data[0] = row % 4000 == 13 ? 0x00 : 0x05;  // boot-up now and then, else operational
         return f;
     }
     static QString time(const Frame &f) { return QString::number(f.micros / 1e6, 'f', 6); }
@@ -149,7 +164,7 @@ public:
         view->horizontalHeader()->setStretchLastSection(true);
         view->setColumnWidth(0, 110);
         view->setColumnWidth(1, 70);
-        view->setColumnWidth(2, 105);
+        view->setColumnWidth(2, 135);
         view->setColumnWidth(3, 45);
         view->setAlternatingRowColors(true);
         layout->addWidget(view);
@@ -237,7 +252,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Trace and file viewer"), 
 
     window->addScreenshot(QStringLiteral("can-trace"), [] {
         auto w = new TraceWindow(1000000);
-        w->edit->setText(QStringLiteral("TPDO2"));
+        w->edit->setText(QStringLiteral("SDO_RES"));
         w->search->onSearchAll();
         w->view->scrollToTop();
         return w;
