@@ -1,0 +1,36 @@
+#pragma once
+
+#include "commongui_export.h"
+
+#include <QRegularExpression>
+#include <QSyntaxHighlighter>
+#include <QTextCharFormat>
+#include <QVector>
+
+class QTextDocument;
+
+// Rule-based colouring of CAN database (DBC) files.
+class COMMONGUI_EXPORT DBCHighlighter : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    explicit DBCHighlighter(QTextDocument *parent);
+    ~DBCHighlighter() override;
+
+protected:
+    void highlightBlock(const QString &text) override;
+
+private:
+    struct HighlightingRule
+    {
+        QRegularExpression pattern;
+        QTextCharFormat format;
+    };
+    QVector<HighlightingRule> highlightingRules;
+
+    QTextCharFormat quotationFormat;
+    QTextCharFormat keywordFormat;
+    QTextCharFormat keywordFormat2;
+    QTextCharFormat singleLineCommentFormat;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "commongui_export.h"
+
+#include <QRegularExpression>
+#include <QSyntaxHighlighter>
+#include <QTextCharFormat>
+#include <QVector>
+
+class QTextDocument;
+
+// Rule-based colouring of IEC 61131 variable declarations.
+class COMMONGUI_EXPORT PlcHighlighter : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    explicit PlcHighlighter(QTextDocument *parent);
+    ~PlcHighlighter() override;
+
+protected:
+    void highlightBlock(const QString &text) override;
+
+private:
+    struct HighlightingRule
+    {
+        QRegularExpression pattern;
+        QTextCharFormat format;
+    };
+    QVector<HighlightingRule> highlightingRules;
+
+    QTextCharFormat keywordFormat;
+    QTextCharFormat dataTypeFormat;
+    QTextCharFormat multiLineCommentFormat;
+    QRegularExpression commentStartExpression;
+    QRegularExpression commentEndExpression;
+};

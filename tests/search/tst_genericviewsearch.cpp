@@ -1,0 +1,494 @@
+#include "GenericViewSearch.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTimer>
+#include <QTreeView>
+#include <QtTest>
+
+#include <memory>
+
+static const int SearchRole = 0x12345;
+static const QString Red = QStringLiteral("QPushButton {background-color: red}");
+static const QString Blue = QStringLiteral("QPushButton {background-color: blue}");
+
+// Display texts differ from the searched texts, so a hit proves the role was read.
+static QStandardItem *item(const QString &text)
+{
+    auto it = new QStandardItem(QStringLiteral("shown ") + text.toUpper());
+    it->setData(text, SearchRole);
+    return it;
+}
+
+struct Fixture
+{
+    explicit Fixture(bool tree)
+    {
+        if (tree)
+            view.reset(new QTreeView);
+        else
+            view.reset(new QTableView);
+        view->setModel(&model);
+        view->setSelectionBehavior(QAbstractItemView::SelectRows);
+        view->resize(300, 200);
+        search.reset(new GenericViewSearch(view.get(), &edit, &button));
+    }
+
+    void addRows(const QStringList &texts)
+    {
+        for (const QString &text : texts)
+            model.appendRow({ item(text), new QStandardItem(QStringLiteral("second column")) });
+    }
+
+    void select(int row)
+    {
+        if (row >= 0)
+            view->selectionModel()->select(model.index(row, 0), QItemSelectionModel::ClearAndSelect
+                                                                   | QItemSelectionModel::Rows);
+    }
+
+    // Search texts of the selected rows, children written as "parent/child".
+    QStringList selectedTexts() const
+    {
+        QStringList texts;
+        for (const QModelIndex &index : view->selectionModel()->selectedRows(0)) {
+            QString text = index.data(SearchRole).toString();
+            if (index.parent().isValid())
+                text.prepend(index.parent().data(SearchRole).toString() + QLatin1Char('/'));
+            texts << text;
+        }
+        texts.sort();
+        return texts;
+    }
+
+    QStandardItemModel model;
+    std::unique_ptr<QAbstractItemView> view;
+    QLineEdit edit;
+    QPushButton button;
+    std::unique_ptr<GenericViewSearch> search;
+};
+
+class tst_GenericViewSearch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void menuActions_data();
+    void menuActions();
+    void searchNext_data();
+    void searchNext();
+    void searchAll_data();
+    void searchAll();
+    void nextAfterAll_data();
+    void nextAfterAll();
+    void hitsForgottenWhenRowsChange_data();
+    void hitsForgottenWhenRowsChange();
+    void children_data();
+    void children();
+    void colourIsReset();
+    void emptyText_data();
+    void emptyText();
+    void shortSearchShowsNoProgress();
+    void slowSearchShowsProgress();
+    void reentryIgnored_data();
+    void reentryIgnored();
+    void survivesDeletedWidgets();
+    void deletedDuringScan();
+};
+
+static const QStringList rows = { "alpha", "Beta", "gamma", "beta two", "delta" };
+
+void tst_GenericViewSearch::menuActions_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QKeySequence>("shortcut");
+    QTest::addColumn<bool>("checkable");
+    QTest::newRow("next") << 0 << "Search next" << QKeySequence(QKeySequence::FindNext) << false;
+    QTest::newRow("sub elements") << 1 << "Search sub elements" << QKeySequence() << true;
+    QTest::newRow("all") << 2 << "Search all" << QKeySequence(Qt::Key_F4) << false;
+}
+
+void tst_GenericViewSearch::menuActions()
+{
+    QFETCH(int, type);
+    QFETCH(QString, text);
+    QFETCH(QKeySequence, shortcut);
+    QFETCH(bool, checkable);
+    Fixture f(false);
+    QAction *action = f.search->getMenuAction(GenericViewSearch::ActionType(type));
+    QVERIFY(action);
+    QCOMPARE(action->parent(), f.search.get());
+    QCOMPARE(action->text(), text);
+    QCOMPARE(action->shortcut(), shortcut);
+    QCOMPARE(action->isCheckable(), checkable);
+    QVERIFY(!action->isChecked());
+    QVERIFY(!f.search->getMenuAction(GenericViewSearch::ActionType(3)));
+}
+
+void tst_GenericViewSearch::searchNext_data()
+{
+    QTest::addColumn<bool>("tree");
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QString>("style");
+    for (bool tree : { false, true }) {
+        const QByteArray model = tree ? "tree: " : "table: ";
+        QTest::newRow(model + "first hit from nothing selected") << tree << -1 << "beta"
+                                                                  << QStringList{ "Beta" } << "";
+        QTest::newRow(model + "skips the selected row's own text") << tree << 1 << "beta"
+                                                                   << QStringList{ "beta two" } << "";
+        QTest::newRow(model + "wraps to the top") << tree << 3 << "beta" << QStringList{ "Beta" } << "";
+        QTest::newRow(model + "case ignored, anywhere in the text") << tree << -1 << "ETA TW"
+                                                                    << QStringList{ "beta two" } << "";
+        QTest::newRow(model + "no hit: red, selection cleared") << tree << 0 << "zeta" << QStringList()
+                                                                << Red;
+        QTest::newRow(model + "only the selected row holds it") << tree << 2 << "gamma" << QStringList()
+                                                                << Red;
+        QTest::newRow(model + "display text not searched") << tree << -1 << "shown" << QStringList()
+                                                           << Red;
+    }
+}
+
+void tst_GenericViewSearch::searchNext()
+{
+    QFETCH(bool, tree);
+    QFETCH(int, selected);
+    QFETCH(QString, text);
+    QFETCH(QStringList, expected);
+    QFETCH(QString, style);
+    Fixture f(tree);
+    f.addRows(rows);
+    f.select(selected);
+    QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
+
+    f.edit.setText(text);
+    QTest::keyClick(&f.edit, Qt::Key_Return);
+
+    QCOMPARE(f.selectedTexts(), expected);
+    QCOMPARE(f.button.styleSheet(), style);
+    QCOMPARE(stop.count(), 1);
+}
+
+void tst_GenericViewSearch::searchAll_data()
+{
+    QTest::addColumn<bool>("tree");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("expected");
+    for (bool tree : { false, true }) {
+        const QByteArray model = tree ? "tree: " : "table: ";
+        QTest::newRow(model + "two hits") << tree << "BETA" << QStringList{ "Beta", "beta two" };
+        QTest::newRow(model + "every row") << tree << "a" << QStringList{ "Beta", "alpha", "beta two", "delta", "gamma" };
+        QTest::newRow(model + "no hit clears the selection") << tree << "zeta" << QStringList();
+    }
+}
+
+void tst_GenericViewSearch::searchAll()
+{
+    QFETCH(bool, tree);
+    QFETCH(QString, text);
+    QFETCH(QStringList, expected);
+    Fixture f(tree);
+    f.addRows(rows);
+    f.select(2);
+    QAction *all = f.search->getMenuAction(GenericViewSearch::SearchAll);
+
+    f.edit.setText(text);
+    all->trigger();
+
+    QCOMPARE(f.selectedTexts(), expected);
+    QCOMPARE(f.button.styleSheet(), QString());  // no colour feedback, even without hits
+}
+
+void tst_GenericViewSearch::nextAfterAll_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("style");
+    QTest::newRow("first hit below row 0, every time") << QStringList{ "x1", "y", "x2", "x3" } << "x2" << "";
+    QTest::newRow("hit in row 0 is passed over") << QStringList{ "x1", "x2", "y" } << "x2" << "";
+    QTest::newRow("only row 0: falls back, blue") << QStringList{ "x1", "y", "z" } << "x1" << Blue;
+}
+
+void tst_GenericViewSearch::nextAfterAll()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(QString, expected);
+    QFETCH(QString, style);
+    Fixture f(false);
+    f.addRows(texts);
+    f.edit.setText("x");
+    f.search->onSearchAll();
+    // Rows edited after the search all: a new scan would see them, the kept hits do not.
+    f.model.item(texts.size() - 1)->setData("x9", SearchRole);
+
+    for (int press = 0; press < 3; ++press) {
+        f.search->onSearchNext();
+        QCOMPARE(f.selectedTexts(), QStringList{ expected });
+        QCOMPARE(f.button.styleSheet(), style);
+    }
+}
+
+void tst_GenericViewSearch::hitsForgottenWhenRowsChange_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("expected");
+    // A new scan from the top finds row 0; stale hits would pick a later row.
+    QTest::newRow("row removed: scans again") << "remove" << "x1";
+    QTest::newRow("row inserted above: scans again") << "insert" << "x1";
+    QTest::newRow("model reset: scans again") << "reset" << "x1";
+    QTest::newRow("row appended: kept hits used") << "append" << "x3";
+}
+
+void tst_GenericViewSearch::hitsForgottenWhenRowsChange()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, expected);
+    Fixture f(false);
+    f.addRows({ "x1", "y", "x3", "x4" });
+    f.edit.setText("x");
+    f.search->onSearchAll();
+    f.model.item(2)->setData("x2", SearchRole);  // seen only by a new scan
+    f.view->selectionModel()->clearSelection();
+    if (change == "remove") {
+        f.model.removeRow(1);
+    } else if (change == "insert") {
+        f.model.insertRow(1, item("y0"));
+    } else if (change == "reset") {
+        f.model.clear();
+        f.addRows({ "x1", "y", "x2", "x4" });
+    } else {
+        f.addRows({ "z" });
+        f.model.item(2)->setData("x3", SearchRole);
+    }
+
+    f.search->onSearchNext();
+
+    QCOMPARE(f.selectedTexts(), QStringList{ expected });
+}
+
+void tst_GenericViewSearch::children_data()
+{
+    QTest::addColumn<bool>("withChildren");
+    QTest::addColumn<bool>("all");
+    QTest::addColumn<QString>("selectedChild");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("next, off: children never match") << false << false << "" << "child" << QStringList();
+    QTest::newRow("next, on: the child itself") << true << false << "" << "child" << QStringList{ "node one/child x" };
+    QTest::newRow("next, on: parent hit comes first") << true << false << "" << "one" << QStringList{ "node one" };
+    QTest::newRow("next, on: from a child to its next sibling") << true << false << "child x" << "child"
+                                                                 << QStringList{ "node one/child beta" };
+    QTest::newRow("next, on: from the last child to the next row") << true << false << "child beta" << "beta"
+                                                                    << QStringList{ "beta top" };
+    QTest::newRow("all, off") << false << true << "" << "beta" << QStringList{ "beta top" };
+    QTest::newRow("all, on: parent and child") << true << true << "" << "o" << QStringList{ "beta top", "node one", "other", "other/gone too" };
+}
+
+void tst_GenericViewSearch::children()
+{
+    QFETCH(bool, withChildren);
+    QFETCH(bool, all);
+    QFETCH(QString, selectedChild);
+    QFETCH(QString, text);
+    QFETCH(QStringList, expected);
+    Fixture f(true);
+    f.addRows({ "node one", "other", "beta top" });
+    f.model.item(0)->appendRow(item("child x"));
+    f.model.item(0)->appendRow(item("child beta"));
+    f.model.item(1)->appendRow(item("gone too"));
+    if (!selectedChild.isEmpty()) {
+        const QModelIndex child = f.model.match(f.model.index(0, 0, f.model.index(0, 0)), SearchRole,
+                                                selectedChild).value(0);
+        QVERIFY(child.isValid());
+        f.view->selectionModel()->select(child, QItemSelectionModel::ClearAndSelect);
+    }
+    QAction *sub = f.search->getMenuAction(GenericViewSearch::SearchSubElements);
+    if (withChildren)
+        sub->trigger();
+
+    f.edit.setText(text);
+    if (all)
+        f.search->onSearchAll();
+    else
+        f.search->onSearchNext();
+
+    QCOMPARE(f.selectedTexts(), expected);
+}
+
+void tst_GenericViewSearch::colourIsReset()
+{
+    Fixture f(false);
+    f.addRows(rows);
+    f.edit.setText("nowhere");
+    f.search->onSearchNext();
+    QCOMPARE(f.button.styleSheet(), Red);
+    QTRY_COMPARE(f.button.styleSheet(), QString());
+
+    f.search->searchResult(GenericViewSearch::Wrapped);
+    QCOMPARE(f.button.styleSheet(), Blue);
+    QTRY_COMPARE(f.button.styleSheet(), QString());
+}
+
+void tst_GenericViewSearch::emptyText_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("search next") << false;
+    QTest::newRow("search all") << true;
+}
+
+void tst_GenericViewSearch::emptyText()
+{
+    QFETCH(bool, all);
+    Fixture f(false);
+    f.addRows(rows);
+    f.select(1);
+    QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
+    if (all)
+        f.search->onSearchAll();
+    else
+        f.search->onSearchNext();
+    QCOMPARE(f.button.styleSheet(), Red);
+    QCOMPARE(f.selectedTexts(), QStringList());
+    QCOMPARE(stop.count(), 0);  // reported at once, no scan
+}
+
+class ShowCounter : public QObject
+{
+public:
+    int shows = 0;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show)
+            ++shows;
+        return false;
+    }
+};
+
+void tst_GenericViewSearch::shortSearchShowsNoProgress()
+{
+    Fixture f(false);
+    f.addRows(rows);
+    f.view->show();
+    auto dialog = f.view->findChild<QProgressDialog *>();
+    QVERIFY(dialog);
+    ShowCounter counter;
+    dialog->installEventFilter(&counter);
+
+    f.edit.setText("nowhere");
+    f.search->onSearchNext();
+    // The colour goes back after a second, long after the 200 ms check has run.
+    QTRY_COMPARE(f.button.styleSheet(), QString());
+    QCOMPARE(counter.shows, 0);
+    QVERIFY(!dialog->isVisible());
+}
+
+// A model whose row 1500 takes long to read, as a slow data source would.
+class SlowModel : public QAbstractTableModel
+{
+public:
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override { return parent.isValid() ? 0 : 5000; }
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override { return parent.isValid() ? 0 : 1; }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != SearchRole)
+            return QVariant();
+        if (index.row() == 1500) {
+            QElapsedTimer timer;
+            timer.start();
+            while (timer.elapsed() < 300) { }
+        }
+        if (index.row() == 2500 && dialog) {
+            visibleLater = dialog->isVisible();
+            label = dialog->labelText();
+        }
+        return QStringLiteral("row %1").arg(index.row());
+    }
+    QProgressDialog *dialog = nullptr;
+    mutable bool visibleLater = false;
+    mutable QString label;
+};
+
+void tst_GenericViewSearch::slowSearchShowsProgress()
+{
+    SlowModel model;
+    QTableView view;
+    view.setModel(&model);
+    view.show();
+    GenericViewSearch search(&view, nullptr, nullptr);
+    model.dialog = view.findChild<QProgressDialog *>();
+    QVERIFY(model.dialog);
+
+    search.searchAllOccurrence("row 4999");
+
+    QVERIFY(model.visibleLater);  // shown by the events run at row 2000
+    QCOMPARE(model.label, QString("Searching..."));
+    QVERIFY(!model.dialog->isVisible());
+    QCOMPARE(view.selectionModel()->selectedRows().value(0).row(), 4999);
+}
+
+void tst_GenericViewSearch::reentryIgnored_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("search next during a scan") << false;
+    QTest::newRow("search all during a scan") << true;
+}
+
+void tst_GenericViewSearch::reentryIgnored()
+{
+    QFETCH(bool, all);
+    Fixture f(false);
+    f.addRows(rows);
+    QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
+    f.edit.setText("beta");
+    // Runs inside the scan's own event processing.
+    QTimer::singleShot(0, f.search.get(), [&] {
+        f.edit.setText("delta");
+        if (all)
+            f.search->onSearchAll();
+        else
+            f.search->onSearchNext();
+    });
+
+    f.search->searchAllOccurrence("beta");
+
+    QCOMPARE(stop.count(), 1);
+    QCOMPARE(f.selectedTexts(), (QStringList{ "Beta", "beta two" }));
+}
+
+void tst_GenericViewSearch::survivesDeletedWidgets()
+{
+    Fixture f(false);
+    f.addRows(rows);
+    auto edit = new QLineEdit;
+    auto button = new QPushButton;
+    GenericViewSearch search(f.view.get(), edit, button);
+    edit->setText("zeta");
+    delete edit;
+    delete button;
+    search.onSearchNext();  // red on a deleted button: nothing to colour
+    search.searchAllOccurrence("beta");
+    QCOMPARE(f.selectedTexts(), (QStringList{ "Beta", "beta two" }));
+}
+
+void tst_GenericViewSearch::deletedDuringScan()
+{
+    Fixture f(false);
+    f.addRows(rows);
+    GenericViewSearch *search = f.search.release();
+    QSignalSpy stop(search, &GenericViewSearch::stopAutoscroll);
+    // An event handler closes the window that owns the search while it scans.
+    QTimer::singleShot(0, [search] { delete search; });
+    search->searchAllOccurrence("beta");
+    QCOMPARE(stop.count(), 0);
+    QCOMPARE(f.selectedTexts(), QStringList());
+}
+
+QTEST_MAIN(tst_GenericViewSearch)
+#include "tst_genericviewsearch.moc"
