@@ -119,6 +119,85 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     </message>
 </context>
 <context>
+    <name>FileViewerDialog</name>
+    <message>
+        <source>FileViewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">Suche</translation>
+    </message>
+    <message>
+        <source>Increase font size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decrease font size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Viewer - </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error %1 is not readable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <comment>Increase font size</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <comment>Decrease font size</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>/</source>
+        <comment>Find dialog</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>n</source>
+        <comment>Find next</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>b</source>
+        <comment>Find previous</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GenericViewSearch</name>
+    <message>
+        <source>Search next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search sub elements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching data...  %p%</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>HelpViewer</name>
     <message>
         <source>Help</source>
