@@ -30,7 +30,8 @@ protected:
     qint64 readData(char *data, qint64 maxSize) override
     {
         const qint64 count = qMin(maxSize, m_arrived - m_read);
-        memcpy(data, m_stream.constData() + m_read, size_t(count));
+        if (count > 0)
+            memcpy(data, m_stream.constData() + m_read, size_t(count));
         m_read += count;
         return count;
     }
