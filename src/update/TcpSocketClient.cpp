@@ -1,5 +1,7 @@
 #include "TcpSocketClient.h"
 
+#include "UpdateProtocol_p.h"
+
 #include <QDataStream>
 #include <QDebug>
 
@@ -38,38 +40,9 @@ void TcpSocketClient::writeDataToSocket(QByteArray data)
 
 void TcpSocketClient::readDataFromSocket()
 {
-    QDataStream in(this);
-    in.setVersion(QDataStream::Qt_5_1);
-    if (blockSize == 0) {
-        if (bytesAvailable() < qint64(sizeof(qint64)))
-            return;
-        in >> blockSize;
-    }
-    // A negative length can never be met: like a too large one, it leaves us waiting.
-    // The length is only compared, never allocated, so a huge value costs nothing.
-    if (blockSize < 0 || blockSize > bytesAvailable())
-        return;
-
-    // The frame is cut by its own length, so a malformed message cannot swallow the next frame.
-    const qint64 frameSize = blockSize;
-    blockSize = 0;
-    if (frameSize < minimumFrame) {
-        skip(frameSize);
-        return;
-    }
-    quint32 length = 0;
-    in >> length;
-    const qint64 rest = frameSize - minimumFrame;
-    QByteArray data;
-    if (length != 0xFFFFFFFFu) {  // all ones: a null array
-        if (length > rest) {
-            skip(rest);
-            return;
-        }
-        data = read(length);
-    }
-    skip(rest - data.size());
-    emit receivedData(data);
+    QByteArray message;
+    if (CommonGUI::UpdateProtocol::takeFrame(this, blockSize, &message))
+        emit receivedData(message);
 }
 
 void TcpSocketClient::endConnection()

@@ -1,11 +1,11 @@
 #include "UpdateChecker.h"
 
+#include "UpdateProtocol_p.h"
 #include "UpdateServer.h"
 
 #include <QMessageBox>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QRegularExpression>
 #include <QUrl>
 
 namespace {
@@ -55,20 +55,14 @@ void UpdateChecker::replyFinished(QNetworkReply *reply)
         box.setIcon(QMessageBox::Warning);
     } else {
         collect(reply);
-        const int nul = body.indexOf('\0');
-        const QString text = QString::fromLatin1(nul < 0 ? body : body.left(nul));
-        // "[*-9]" is a character range on purpose: it lets "+", ",", "-", "." and "/" through.
-        static const QRegularExpression pattern(QStringLiteral("(.*):([0-9]*\\.*[0-9]*\\.*[*-9]*)"));
-        const QRegularExpressionMatch match = pattern.match(text);
-        const QString replyName = match.captured(1);
-        const QString serverVersion = match.captured(2);
-        if (replyName != productName) {
+        const CommonGUI::UpdateProtocol::VersionInfo info
+                = CommonGUI::UpdateProtocol::readVersionInfo(body, productName, currentVersion);
+        if (info.outcome == CommonGUI::UpdateProtocol::VersionInfo::Invalid) {
             box.setText(tr("Query for update has failed."));
             box.setInformativeText(QStringLiteral("Invalid data received from update server:"));
             box.setIcon(QMessageBox::Warning);
-        } else if (QString::compare(currentVersion, serverVersion, Qt::CaseInsensitive) < 0) {
-            // Textual on purpose: "1.10.0" sorts below "1.9.0".
-            const QString message = QStringLiteral("New version ") + serverVersion
+        } else if (info.outcome == CommonGUI::UpdateProtocol::VersionInfo::Newer) {
+            const QString message = QStringLiteral("New version ") + info.serverVersion
                     + QStringLiteral(" is available.");
             box.setText(tr("Query for update successful."));
             box.setInformativeText(message);
@@ -77,7 +71,7 @@ void UpdateChecker::replyFinished(QNetworkReply *reply)
                 emit newVersion(message);
         } else {
             box.setText(tr("Query for update successful."));
-            box.setInformativeText(QStringLiteral("No new version available. Version ") + serverVersion
+            box.setInformativeText(QStringLiteral("No new version available. Version ") + info.serverVersion
                                    + QStringLiteral(" is current version."));
             box.setIcon(QMessageBox::Warning);
         }

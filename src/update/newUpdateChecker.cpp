@@ -1,6 +1,7 @@
 #include "newUpdateChecker.h"
 
 #include "NewUpdateCheckerWorker.h"
+#include "UpdateProtocol_p.h"
 #include "UpdateServer.h"
 
 #include <QDataStream>
@@ -10,8 +11,6 @@
 
 namespace {
 constexpr qint16 versionListRequest = 8202;  // 0x200A
-constexpr qint16 mapFlag = 0x2000;
-constexpr int frameHeader = 12;  // qint64 frame length + the message's 32-bit length
 }
 
 newUpdateChecker::newUpdateChecker(QObject *parent)
@@ -133,34 +132,8 @@ void newUpdateChecker::noConnection(QNetworkReply *reply)
 
 void newUpdateChecker::readData(QByteArray receivedData)
 {
-    if (receivedData.size() < frameHeader)
-        return;
-    receivedData.remove(0, frameHeader);
-    QDataStream in(receivedData);
-    in.setVersion(QDataStream::Qt_5_1);
-    qint16 code = 0;
-    QByteArray inner;
-    in >> code >> inner;
-    if (in.status() != QDataStream::Ok)
-        return;
-
-    QDataStream innerIn(inner);
-    innerIn.setVersion(QDataStream::Qt_5_1);
-    qint8 status = 0;
-    QByteArray payload;
-    innerIn >> status >> payload;
-    if (innerIn.status() != QDataStream::Ok)
-        return;
-
     QMap<QString, QString> versionList;
-    if (code & mapFlag) {
-        QDataStream mapIn(payload);
-        mapIn.setVersion(QDataStream::Qt_5_1);
-        mapIn >> versionList;
-        if (mapIn.status() != QDataStream::Ok)
-            versionList.clear();
-    }
-    if (status == 1 && code == versionListRequest)
+    if (CommonGUI::UpdateProtocol::readVersionList(receivedData, &versionList))
         checkNewerVersion(versionList);
 }
 
@@ -169,40 +142,21 @@ void newUpdateChecker::checkNewerVersion(QMap<QString, QString> versionList)
     // The suffix stays on the member: a second comparison looks up "<id>-10-10".
     productId.append(QStringLiteral("-10"));
     const QString key = productId;
-
-    if (currentVersion.left(5).remove(QLatin1Char('.')).size() < 3)
-        currentVersion.append(QStringLiteral(".0"));
-    const QStringList currentParts = currentVersion.split(QLatin1Char('.'));
-    // Cut to 5 characters: "2.4.17" counts as 241.
-    const uint currentNumber = currentVersion.left(5).remove(QLatin1Char('.')).toUInt();
-
-    const uint value = versionList.value(key).toUInt();
-    const QString serverVersion = QString::asprintf("%d.%d.%d", int(value / 1000000),
-                                                    int(value / 1000 % 1000), int(value % 1000));
-    const QStringList serverParts = serverVersion.split(QLatin1Char('.'));
-    if (currentParts.size() < 3 || serverParts.size() < 3)
+    const CommonGUI::UpdateProtocol::VersionComparison comparison
+            = CommonGUI::UpdateProtocol::compareVersions(currentVersion, versionList.value(key));
+    if (!comparison.comparable)
         return;
 
-    bool newer = false;
-    for (int i = 0; i < 3; ++i) {
-        const uint server = serverParts.at(i).toUInt();
-        const uint current = currentParts.at(i).toUInt();
-        if (i == 2 || server != current) {
-            newer = server > current;
-            break;
-        }
-    }
-    const uint serverNumber = QString(serverVersion).remove(QLatin1Char('.')).toUInt();
-
     if (!showMessage) {
-        emit versionAvailable(serverVersion, key, newer);
+        emit versionAvailable(comparison.serverVersion, key, comparison.newer);
         return;
     }
     // Decided on the digit strings, not on newer: the two rules differ on purpose.
     QMessageBox box;
     box.setText(tr("Query for update successful."));
-    if (currentNumber < serverNumber) {
-        box.setInformativeText(QStringLiteral("New version ") + serverVersion + QStringLiteral(" is available."));
+    if (comparison.newerByDigits) {
+        box.setInformativeText(QStringLiteral("New version ") + comparison.serverVersion
+                               + QStringLiteral(" is available."));
         box.setIcon(QMessageBox::Information);
     } else {
         box.setInformativeText(QStringLiteral("No new version available. Version ") + currentVersion

@@ -261,6 +261,10 @@ void tst_newUpdateChecker::parsesReply_data()
     // A broken map is an empty map: the product counts as 0.0.0.
     QTest::newRow("map cut short") << "2.4.0" << replyFrame(0x200A, 1, map.left(map.size() - 3)) << "0.0.0";
     QTest::newRow("map count 2^31") << "2.4.0" << replyFrame(0x200A, 1, QByteArray::fromHex("80000000")) << "0.0.0";
+    // The status reads 1, the payload does not: an empty map, so 0.0.0.
+    QTest::newRow("payload cut short") << "2.4.0"
+            << QByteArray::fromHex("0000000000000012" "0000000e" "200a" "00000008" "01" "00000010" "616263")
+            << "0.0.0";
     QTest::newRow("inner block cut short") << "2.4.0" << replyFrame(0x200A, 1, map).left(30) << QString();
     QTest::newRow("inner length 2^32-16") << "2.4.0"
             << QByteArray::fromHex("0000000000000010" "0000000c" "200a" "fffffff0" "01") << QString();

@@ -78,6 +78,13 @@ void tst_TcpSocketClient::receivesInChunks_data()
                                             << Counts { 0, 1 } << Counts { 6, 0 } << QByteArray("hello");
     QTest::newRow("empty message") << ByteArrays { QByteArray::fromHex("0000000000000004" "00000000") }
                                    << Counts { 1 } << Counts { 0 } << QByteArray();
+    // Without a usable frame length the message field alone is the frame.
+    const QByteArray unframed = QByteArray::fromHex("ffffffffffffffff" "00000002") + "hi";
+    QTest::newRow("negative frame length") << ByteArrays { unframed } << Counts { 1 } << Counts { 0 }
+                                           << QByteArray("hi");
+    QTest::newRow("negative frame length, message in two chunks")
+            << ByteArrays { unframed.left(10), unframed.mid(10) } << Counts { 0, 1 } << Counts { 2, 0 }
+            << QByteArray("hi");
     // The frame length rules: bytes after the message inside the frame are not the next frame.
     QTest::newRow("padding inside the frame")
             << ByteArrays { QByteArray::fromHex("000000000000000a" "00000002") + "hi" + "pppp" }
@@ -122,7 +129,8 @@ void tst_TcpSocketClient::badFrames_data()
     QTest::addColumn<bool>("nextFrameArrives");
 
     QTest::newRow("length 2^62") << QByteArray::fromHex("4000000000000000") + QByteArray(100, 'x') << false;
-    QTest::newRow("negative length") << QByteArray::fromHex("ffffffffffffffff") + QByteArray(100, 'x') << false;
+    QTest::newRow("negative length, message never complete")
+            << QByteArray::fromHex("ffffffffffffffff") + QByteArray(100, 'x') << false;
     QTest::newRow("frame too short for a message")
             << QByteArray::fromHex("0000000000000002" "0000") << true;
     QTest::newRow("message longer than its frame")
