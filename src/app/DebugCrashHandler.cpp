@@ -105,10 +105,18 @@ void DebugCrashHandler::logDebugOutput(QtMsgType, const QString &msg)
 {
     if (!m_logFile || !m_logFile->isOpen())
         return;
+    // "yyyy.MM.dd<TAB>hh:mm:ss:zzz", formatted by hand: QDateTime::toString parses
+    // its pattern on every call, and this runs for every message, twice.
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    char stamp[32];
+    std::snprintf(stamp, sizeof stamp, "%04d.%02d.%02d\t%02d:%02d:%02d:%03d", date.year(),
+                  date.month(), date.day(), time.hour(), time.minute(), time.second(),
+                  time.msec());
     QTextStream out(m_logFile);
     out.setCodec("UTF-8");
-    out << QDateTime::currentDateTime().toString(QStringLiteral("yyyy.MM.dd\thh:mm:ss:zzz"))
-        << "\t\t" << msg << "\n";
+    out << stamp << "\t\t" << msg << "\n";
 }
 
 namespace {
