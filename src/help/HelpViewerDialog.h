@@ -25,7 +25,7 @@ public:
     void setManualFile(const QString &path);
     bool showManual();
 
-private slots:
+public slots:
     void on_pushButton_clicked();
 
 private:
