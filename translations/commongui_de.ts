@@ -49,16 +49,12 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
         <translation>zum Beispiel ff oder 0x1A2B</translation>
     </message>
     <message>
-        <source>Characters:</source>
-        <translation>Zeichen:</translation>
-    </message>
-    <message>
-        <source>for example AB</source>
-        <translation>zum Beispiel AB</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Characters, for example AB</source>
+        <translation>Zeichen, zum Beispiel AB</translation>
     </message>
 </context>
 <context>
@@ -107,6 +103,37 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     </message>
 </context>
 <context>
+    <name>QHexEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>A&amp;usschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+</context>
+<context>
     <name>TipOfTheDay</name>
     <message>
         <source>Tip of the day</source>
@@ -131,6 +158,32 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Update Check</source>
+        <translation>Update-Prüfung</translation>
+    </message>
+    <message>
+        <source>Query for update has failed.</source>
+        <translation>Die Abfrage nach Updates ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Query for update successful.</source>
+        <translation>Die Abfrage nach Updates war erfolgreich.</translation>
+    </message>
+</context>
+<context>
+    <name>newUpdateChecker</name>
+    <message>
+        <source>Query for update has failed.</source>
+        <translation>Die Abfrage nach Updates ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Query for update successful.</source>
+        <translation>Die Abfrage nach Updates war erfolgreich.</translation>
     </message>
 </context>
 </TS>
