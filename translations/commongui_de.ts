@@ -56,6 +56,10 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
         <source>Characters, for example AB</source>
         <translation>Zeichen, zum Beispiel AB</translation>
     </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
 </context>
 <context>
     <name>HelpViewer</name>
