@@ -18,7 +18,7 @@ public:
 
     // Scrolls to the anchor `topic` and shows the dialog (non-modal).
     void setTopic(const QString &topic);
-    // Returns false, keeping the current page, when `path` does not exist.
+    // Returns false, keeping the current page, when `path` is no file.
     bool setFile(const QString &path);
     void setTitle(const QString &title);
     // Absolute path of the PDF that showManual() opens.
