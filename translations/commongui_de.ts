@@ -49,152 +49,16 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
         <translation>zum Beispiel ff oder 0x1A2B</translation>
     </message>
     <message>
-        <source>Characters:</source>
-        <translation>Zeichen:</translation>
-    </message>
-    <message>
-        <source>for example AB</source>
-        <translation>zum Beispiel AB</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
-</context>
-<context>
-    <name>ConciseDcfCreator</name>
     <message>
-        <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <source>Characters, for example AB</source>
+        <translation>Zeichen, zum Beispiel AB</translation>
     </message>
     <message>
-        <source>%1: data type &quot;%2&quot; is not supported</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>Truncated concise DCF: %n byte(s), no entry count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Inconsistent concise DCF: %1 entries cannot fit in %2 bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Truncated concise DCF: entry %1 of %2 is cut short</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Truncated concise DCF: entry %1 (0x%2sub%3) declares %4 bytes, %5 left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Inconsistent concise DCF: %1 bytes after the last entry</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>DCFWriter</name>
-    <message>
-        <source>%1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1sub%2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>sub%2</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>FileViewerDialog</name>
-    <message>
-        <source>FileViewer</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open Folder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation type="unfinished">Suche</translation>
-    </message>
-    <message>
-        <source>Increase font size</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Decrease font size</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>File Viewer - </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Error %1 is not readable.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ctrl++</source>
-        <comment>Increase font size</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ctrl+-</source>
-        <comment>Decrease font size</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>/</source>
-        <comment>Find dialog</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>n</source>
-        <comment>Find next</comment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>b</source>
-        <comment>Find previous</comment>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>GenericViewSearch</name>
-    <message>
-        <source>Search next</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Search sub elements</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Search all</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Searching data...  %p%</source>
-        <translation type="unfinished"></translation>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
     </message>
 </context>
 <context>
@@ -246,31 +110,31 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <name>QHexEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;usschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
 </context>
 <context>
@@ -304,26 +168,26 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <name>UpdateChecker</name>
     <message>
         <source>Update Check</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Prüfung</translation>
     </message>
     <message>
         <source>Query for update has failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abfrage nach Updates ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Query for update successful.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abfrage nach Updates war erfolgreich.</translation>
     </message>
 </context>
 <context>
     <name>newUpdateChecker</name>
     <message>
         <source>Query for update has failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abfrage nach Updates ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Query for update successful.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abfrage nach Updates war erfolgreich.</translation>
     </message>
 </context>
 </TS>

@@ -27,8 +27,6 @@ public:
 public slots:
     void onDocumentActivated(const QHelpLink &link, const QString &keyword);
     void searchRequest();
-
-private slots:
     void on_btnClose_clicked();
 
 private:

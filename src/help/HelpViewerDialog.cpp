@@ -32,7 +32,8 @@ void HelpViewerDialog::setTopic(const QString &topic)
 
 bool HelpViewerDialog::setFile(const QString &path)
 {
-    if (!QFileInfo::exists(path))
+    // A folder is no page: it would only blank the browser.
+    if (!QFileInfo(path).isFile())
         return false;
     ui->textBrowser->setSource(QUrl(QStringLiteral("file:") + path));
     return true;

@@ -18,14 +18,14 @@ public:
 
     // Scrolls to the anchor `topic` and shows the dialog (non-modal).
     void setTopic(const QString &topic);
-    // Returns false, keeping the current page, when `path` does not exist.
+    // Returns false, keeping the current page, when `path` is no file.
     bool setFile(const QString &path);
     void setTitle(const QString &title);
     // Absolute path of the PDF that showManual() opens.
     void setManualFile(const QString &path);
     bool showManual();
 
-private slots:
+public slots:
     void on_pushButton_clicked();
 
 private:

@@ -57,7 +57,10 @@ QMenu *ManualHandler::getManualsMenu()
     qDeleteAll(m_entries);
     m_entries.clear();
 
-    const QFileInfoList entries = QDir(manualsPath).entryInfoList({ QStringLiteral("*.pdf") });
+    // QDir reads an empty path as the working directory, which holds no manuals.
+    const QFileInfoList entries = manualsPath.isEmpty()
+            ? QFileInfoList()
+            : QDir(manualsPath).entryInfoList({ QStringLiteral("*.pdf") });
     for (const QFileInfo &entry : entries) {
         const QString baseName = entry.baseName();
         const QString title = mFileNameToDisplayName.value(baseName, baseName);

@@ -16,7 +16,7 @@ public:
     explicit CalcoraDialog(QWidget *parent = nullptr);
     ~CalcoraDialog() override;
 
-private slots:
+public slots:
     void on_edtbin_textChanged(const QString &arg1);
     void on_edtDec_textChanged(const QString &arg1);
     void on_edtHex_textChanged(const QString &arg1);

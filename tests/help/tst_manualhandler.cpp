@@ -15,6 +15,7 @@ public slots:
 private slots:
     void titles_data();
     void titles();
+    void noManualsGivesNoMenu_data();
     void noManualsGivesNoMenu();
     void refillDoesNotDuplicate();
     void triggerOpensThePdf();
@@ -79,15 +80,34 @@ void tst_ManualHandler::titles()
     delete menu;
 }
 
+void tst_ManualHandler::noManualsGivesNoMenu_data()
+{
+    QTest::addColumn<QString>("path");
+
+    QTest::newRow("only other files") << "manuals";
+    QTest::newRow("missing directory") << "manuals/missing";
+    QTest::newRow("path never set") << "";
+}
+
 void tst_ManualHandler::noManualsGivesNoMenu()
 {
+    QFETCH(QString, path);
+
     QTemporaryDir dir;
-    touch(dir.filePath(QStringLiteral("readme.txt")));
+    QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("manuals")));
+    touch(dir.filePath(QStringLiteral("manuals/readme.txt")));
+    // A PDF in the working directory must not turn up for an unset path.
+    touch(dir.filePath(QStringLiteral("handbook_tarvet_de.pdf")));
+    const QString previous = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(dir.path()));
     ManualHandler handler;
-    handler.setManualsPath(dir.path());
-    QCOMPARE(handler.getManualsMenu(), nullptr);
-    handler.setManualsPath(dir.filePath(QStringLiteral("missing")));
-    QCOMPARE(handler.getManualsMenu(), nullptr);
+    if (!path.isEmpty())
+        handler.setManualsPath(dir.filePath(path));
+
+    QMenu *menu = handler.getManualsMenu();
+    QDir::setCurrent(previous);
+
+    QCOMPARE(menu, nullptr);
 }
 
 void tst_ManualHandler::refillDoesNotDuplicate()
