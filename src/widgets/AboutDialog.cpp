@@ -1,5 +1,7 @@
 #include "AboutDialog.h"
 
+#include "CANopenTypes.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -7,11 +9,6 @@
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QVBoxLayout>
-
-namespace {
-// Mirrors the library's version number until the shared version constant lands.
-const char libraryVersionText[] = "0.9";
-}
 
 AboutDialog::AboutDialog(const QString &applicationName, const QString &applicationVersion,
                          const QString &creditsText, QWidget *parent)
@@ -78,7 +75,7 @@ void AboutDialog::setLogo(const QPixmap &logo)
 
 QString AboutDialog::libraryVersion()
 {
-    return QString::fromLatin1(libraryVersionText);
+    return QString(CommonGUI::version);
 }
 
 void AboutDialog::changeEvent(QEvent *event)
