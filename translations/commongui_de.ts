@@ -65,136 +65,136 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <name>ConciseDcfCreator</name>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>%1: data type &quot;%2&quot; is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Datentyp &quot;%2&quot; wird nicht unterstützt</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message numerus="yes">
         <source>Truncated concise DCF: %n byte(s), no entry count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Abgeschnittene Concise-DCF: %n Byte, keine Eintragsanzahl</numerusform>
+            <numerusform>Abgeschnittene Concise-DCF: %n Bytes, keine Eintragsanzahl</numerusform>
         </translation>
     </message>
     <message>
         <source>Inconsistent concise DCF: %1 entries cannot fit in %2 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkonsistente Concise-DCF: %1 Einträge passen nicht in %2 Bytes</translation>
     </message>
     <message>
         <source>Truncated concise DCF: entry %1 of %2 is cut short</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgeschnittene Concise-DCF: Eintrag %1 von %2 ist unvollständig</translation>
     </message>
     <message>
         <source>Truncated concise DCF: entry %1 (0x%2sub%3) declares %4 bytes, %5 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgeschnittene Concise-DCF: Eintrag %1 (0x%2sub%3) gibt %4 Bytes an, %5 übrig</translation>
     </message>
     <message>
         <source>Inconsistent concise DCF: %1 bytes after the last entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkonsistente Concise-DCF: %1 Bytes nach dem letzten Eintrag</translation>
     </message>
 </context>
 <context>
     <name>DCFWriter</name>
     <message>
         <source>%1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>%1sub%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1sub%2</translation>
     </message>
     <message>
         <source>sub%2</source>
-        <translation type="unfinished"></translation>
+        <translation>sub%2</translation>
     </message>
 </context>
 <context>
     <name>FileViewerDialog</name>
     <message>
         <source>FileViewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateibetrachter</translation>
     </message>
     <message>
         <source>Open Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished">Suche</translation>
+        <translation>Suche</translation>
     </message>
     <message>
         <source>Increase font size</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift vergrößern</translation>
     </message>
     <message>
         <source>Decrease font size</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift verkleinern</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>File Viewer - </source>
-        <translation type="unfinished"></translation>
+        <translation>Dateibetrachter - </translation>
     </message>
     <message>
         <source>Error %1 is not readable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1 ist nicht lesbar.</translation>
     </message>
     <message>
         <source>Ctrl++</source>
         <comment>Increase font size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl++</translation>
     </message>
     <message>
         <source>Ctrl+-</source>
         <comment>Decrease font size</comment>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+-</translation>
     </message>
     <message>
         <source>/</source>
         <comment>Find dialog</comment>
-        <translation type="unfinished"></translation>
+        <translation>/</translation>
     </message>
     <message>
         <source>n</source>
         <comment>Find next</comment>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>b</source>
         <comment>Find previous</comment>
-        <translation type="unfinished"></translation>
+        <translation>b</translation>
     </message>
 </context>
 <context>
     <name>GenericViewSearch</name>
     <message>
         <source>Search next</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitersuchen</translation>
     </message>
     <message>
         <source>Search sub elements</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterelemente durchsuchen</translation>
     </message>
     <message>
         <source>Search all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle suchen</translation>
     </message>
     <message>
         <source>Searching data...  %p%</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten werden gesucht...  %p%</translation>
     </message>
 </context>
 <context>
