@@ -340,6 +340,9 @@ void tst_DCFWriter::optionalObjects_data()
     QTest::newRow("empty list clears")
         << QByteArray("[OptionalObjects]\nSupportedObjects=2\n1=0x1800\n2=0x1801\n")
         << QList<unsigned short>{} << Sections{ { "SupportedObjects", "0" } };
+    QTest::newRow("count read with the reader's escapes")
+        << QByteArray("[OptionalObjects]\nSupportedObjects=\\q2\n1=0x1800\n2=0x1801\n")
+        << QList<unsigned short>{ 0x2001 } << Sections{ { "SupportedObjects", "1" }, { "1", "0x2001" } };
     QTest::newRow("no section yet, padded lower-case hex")
         << QByteArray("[FileInfo]\nA=1\n")
         << QList<unsigned short>{ 0xFFFF, 0x0001, 0x1a00, 0x0001 }
@@ -620,6 +623,24 @@ void tst_DCFWriter::oddLayouts_data()
         << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\n")
         << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "X" << "5";
+    // Entries end where the settings reader ends them: quotes carry over line breaks,
+    // and a longer section name overrides a key of the same path outside it.
+    QTest::newRow("quoted value over two lines is one entry")
+        << QByteArray("[FileInfo]\nX=\"a\nb\"\n[1a00sub1]\nA=1\n")
+        << QByteArray("[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("section key overrides a slashed key outside sections")
+        << QByteArray("[FileInfo]\nX=1\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\n")
+        << QByteArray("[FileInfo]\nX=3\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\nParameterValue=7\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("text ending inside quotes is closed first")
+        << QByteArray("[1a00sub1]\nA=\"open")
+        << QByteArray("[1a00sub1]\nA=\"open\"\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/A" << "open";
+    QTest::newRow("final backslash escapes nothing that follows")
+        << QByteArray("[1a00sub1]\nA=x \\")
+        << QByteArray("[1a00sub1]\nA=x \\x\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/A" << "x ";
     QTest::newRow("empty section gets no value")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=1\n")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n")
