@@ -20,8 +20,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     if (ConciseDcfCreator::readConciseDcf(bytes, &entries, &error) != error.isEmpty())
         abort();
 
-    const QString sheet = dir.filePath(QStringLiteral("sheet.dcf"));
-    const QString output = dir.filePath(QStringLiteral("out.bin"));
+    // New names every run: QSettings caches a file it has seen by name, size and time.
+    static int run = 0;
+    ++run;
+    const QString sheet = dir.filePath(QStringLiteral("sheet%1.dcf").arg(run));
+    const QString output = dir.filePath(QStringLiteral("out%1.bin").arg(run));
     {
         QFile file(sheet);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
@@ -55,5 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     } else if (creator.errors().isEmpty()) {
         abort();
     }
+    QFile::remove(sheet);
+    QFile::remove(output);
     return 0;
 }

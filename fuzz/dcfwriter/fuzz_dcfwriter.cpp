@@ -65,8 +65,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     const QString value = (flags & 1) ? QStringLiteral("0x7f, \"x\"") : QStringLiteral("1");
     const QString denotation = (flags & 2) ? QString() : QStringLiteral("Den ;=");
 
-    const QString ours = dir.filePath(QStringLiteral("ours.dcf"));
-    const QString theirs = dir.filePath(QStringLiteral("theirs.dcf"));
+    // New names every run: QSettings caches a file it has seen by name, size and time.
+    static int run = 0;
+    ++run;
+    const QString ours = dir.filePath(QStringLiteral("ours%1.dcf").arg(run));
+    const QString theirs = dir.filePath(QStringLiteral("theirs%1.dcf").arg(run));
     writeBytes(ours, input + 4, size - 4);
     writeBytes(theirs, input + 4, size - 4);
 
@@ -111,5 +114,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
         if (written.value(key) != reference.value(key))
             fail("values differ", key, written.value(key), reference.value(key));
     }
+    reference.sync();  // nothing left to write when it goes
+    QFile::remove(ours);
+    QFile::remove(theirs);
     return 0;
 }

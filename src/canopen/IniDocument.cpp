@@ -413,23 +413,27 @@ void IniDocument::parse(const QByteArray &input)
             const QByteArray name = (close < 0 || close >= end)
                 ? QByteArray(data + begin + 1, end - begin - 1).trimmed()
                 : QByteArray(data + begin + 1, close - begin - 1).trimmed();
+            // Keys of a section are "name/key", outside sections just "key";
+            // "[]" is a section of its own, its keys "/key".
             if (name.compare("general", Qt::CaseInsensitive) == 0)
                 section.clear();
             else if (name.compare("%general", Qt::CaseInsensitive) == 0)
                 section = QString::fromLatin1(name.mid(1));
             else
                 section = unescapedKey(name);
+            const bool general = name.compare("general", Qt::CaseInsensitive) == 0;
             Block block;
             block.name = section;
+            block.prefix = general ? QString() : section + QLatin1Char('/');
             block.header = int(m_lines.size());
             block.first = block.header + 1;
             const int id = int(m_blocks.size());
-            const auto last = lastBlock.constFind(section);
+            const auto last = lastBlock.constFind(block.prefix);
             if (last == lastBlock.constEnd())
-                m_firstBlock.insert(section, id);
+                m_firstBlock.insert(block.prefix, id);
             else
                 m_blocks[size_t(*last)].nextSameName = id;
-            lastBlock.insert(section, id);
+            lastBlock.insert(block.prefix, id);
             if (section.contains(QLatin1Char('/')))
                 m_slashedSections.insert(section);
             m_blocks.push_back(block);
@@ -439,6 +443,10 @@ void IniDocument::parse(const QByteArray &input)
             continue;
         }
         if (equals >= 0) {
+            // The reader takes a byte order mark into the first key outside sections.
+            line.bomKey = m_bom && pos == 3;
+            if (line.bomKey)
+                begin = pos;
             int keyEnd = equals;
             while (keyEnd > begin && isSpace(data[keyEnd - 1]))
                 --keyEnd;
@@ -450,6 +458,7 @@ void IniDocument::parse(const QByteArray &input)
             line.plainKey = true;
             for (int i = begin; i < keyEnd && line.plainKey; ++i)
                 line.plainKey = data[i] != '%' && data[i] != '\\';
+            line.plainKey = line.plainKey && !line.bomKey;
         }
         m_lines.push_back(line);
         Block &block = m_blocks[size_t(line.block)];
@@ -487,6 +496,8 @@ QByteArray IniDocument::rawKey(const Line &line) const
 QString IniDocument::keyOf(const Line &line) const
 {
     const QByteArray raw = rawKey(line);
+    if (line.bomKey)
+        return QString::fromLatin1("\xEF\xBB\xBF") + unescapedKey(raw);
     return line.plainKey ? QString::fromLatin1(raw) : unescapedKey(raw);
 }
 
@@ -514,11 +525,10 @@ int IniDocument::findLine(const QString &path, int *sectionBlock) const
         *sectionBlock = -1;
     // A path may split into section and key at any slash, or be a key outside sections.
     do {
-        const QString section = slash < 0 ? QString() : path.left(slash);
         const QString key = slash < 0 ? path : path.mid(slash + 1);
         if (slash >= 0 || !path.isEmpty()) {
             // Keys outside sections start in block 0, always.
-            const int first = slash < 0 ? 0 : m_firstBlock.value(section, -1);
+            const int first = slash < 0 ? 0 : m_firstBlock.value(path.left(slash + 1), -1);
             for (int b = first; b >= 0; b = m_blocks[size_t(b)].nextSameName) {
                 const Block &block = m_blocks[size_t(b)];
                 if (sectionBlock && slash == firstSlash && !block.removed)
@@ -571,6 +581,7 @@ int IniDocument::newBlock(const QString &name)
 {
     Block block;
     block.name = name;
+    block.prefix = name.isEmpty() ? QString() : name + QLatin1Char('/');
     block.added = true;
     const int id = int(m_blocks.size());
     Line line;
@@ -578,9 +589,9 @@ int IniDocument::newBlock(const QString &name)
     line.block = id;
     m_lines.push_back(line);
     block.header = int(m_lines.size()) - 1;
-    int last = m_firstBlock.value(name, -1);
+    int last = m_firstBlock.value(block.prefix, -1);
     if (last < 0) {
-        m_firstBlock.insert(name, id);
+        m_firstBlock.insert(block.prefix, id);
     } else {
         while (m_blocks[size_t(last)].nextSameName >= 0)
             last = m_blocks[size_t(last)].nextSameName;
@@ -608,7 +619,8 @@ QByteArray IniDocument::toBytes() const
             const Line &open = m_lines[size_t(m_openLine)];
             if (m_blocks[size_t(open.block)].header == m_openLine) {
                 out.truncate(openAt);
-                out += headerText(m_blocks[size_t(open.block)].name);
+                const Block &block = m_blocks[size_t(open.block)];
+                out += block.prefix.isEmpty() || !block.name.isEmpty() ? headerText(block.name) : QByteArray("[]");
                 endsWithEol = false;
             } else {
                 out += m_openEnd;
@@ -679,7 +691,7 @@ QStringList IniDocument::allKeys() const
         forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (line.key && !line.removed)
-                keys.insert(block.name.isEmpty() ? keyOf(line) : block.name + QLatin1Char('/') + keyOf(line));
+                keys.insert(block.prefix + keyOf(line));
         });
     }
     QStringList sorted = keys.values();
@@ -694,7 +706,7 @@ QStringList IniDocument::childGroups() const
     for (const Block &block : m_blocks) {
         if (block.removed || block.liveKeys == 0)
             continue;
-        if (!block.name.isEmpty()) {
+        if (!block.prefix.isEmpty()) {
             groups.append(block.name.contains(QLatin1Char('/')) ? firstSegment(block.name) : block.name);
             continue;
         }
@@ -804,10 +816,10 @@ bool IniDocument::remove(const QString &rawPath)
     int slash = -1;
     // Every split into section and key (and no section at all) can hold keys of the path.
     do {
-        const QString section = slash < 0 ? QString() : path.left(slash);
         const QString key = slash < 0 ? path : path.mid(slash + 1);
         const QString prefix = key + QLatin1Char('/');
-        for (int b = m_firstBlock.value(section, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
+        const int first = slash < 0 ? 0 : m_firstBlock.value(path.left(slash + 1), -1);
+        for (int b = first; b >= 0; b = m_blocks[size_t(b)].nextSameName) {
             const Block &block = m_blocks[size_t(b)];
             if (block.removed || block.liveKeys == 0)
                 continue;
@@ -829,41 +841,12 @@ bool IniDocument::remove(const QString &rawPath)
             sections << name;
     }
     for (const QString &name : qAsConst(sections)) {
-        for (int b = m_firstBlock.value(name, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
+        for (int b = m_firstBlock.value(name + QLatin1Char('/'), -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
             if (!m_blocks[size_t(b)].removed) {
                 any = any || m_blocks[size_t(b)].liveKeys > 0;
                 removeBlock(b);
             }
         }
-    }
-    return any;
-}
-
-bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept)
-{
-    bool any = false;
-    QString path;
-    for (size_t b = 0; b < m_blocks.size(); ++b) {
-        const Block &block = m_blocks[b];
-        if (block.removed || block.liveKeys == 0)
-            continue;
-        const QString prefix = block.name.isEmpty() ? QString() : block.name + QLatin1Char('/');
-        forEachLine(block, [&](int id) {
-            const Line &line = m_lines[size_t(id)];
-            if (!line.key || line.removed)
-                return;
-            // One buffer for all paths: no allocation per key.
-            path.resize(0);
-            path += prefix;
-            if (line.plainKey)
-                path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
-            else
-                path += keyOf(line);
-            if (accept(path)) {
-                removeLine(id);
-                any = true;
-            }
-        });
     }
     return any;
 }

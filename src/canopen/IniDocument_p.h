@@ -8,7 +8,6 @@
 #include <QVariant>
 #include <QVector>
 
-#include <functional>
 #include <vector>
 
 // An INI text edited in place. Keys and sections are read the way QSettings
@@ -35,8 +34,6 @@ public:
     void setValue(const QString &path, const QString &value);
     // A key, or a whole group with all its keys; true if anything went.
     bool remove(const QString &path);
-    // Drops every key whose path the predicate accepts; true if any went.
-    bool removeKeysIf(const std::function<bool(const QString &)> &accept);
 
     static QByteArray escapedKey(const QString &key);
     static QByteArray escapedValue(const QString &value);
@@ -58,11 +55,13 @@ private:
         bool extra = false;  // offset and length point into m_extra: rewritten or added
         bool key = false;
         bool plainKey = false;  // no escapes: raw bytes are the key
+        bool bomKey = false;  // the byte order mark before it is part of the key
         bool removed = false;
     };
     struct Block
     {
         QString name;  // "" for keys outside any section
+        QString prefix;  // what the keys' paths start with: "" outside sections, else name + "/"
         int header = -1;
         int nextSameName = -1;
         int liveKeys = 0;
@@ -112,6 +111,6 @@ private:
     int m_openLine = -1;
     QByteArray m_openEnd;
     QByteArray m_extra;  // text of rewritten and added lines, appended
-    QHash<QString, int> m_firstBlock;  // section name -> first block of that name
+    QHash<QString, int> m_firstBlock;  // path prefix -> first block with it
     QSet<QString> m_slashedSections;  // section names holding an escaped slash
 };

@@ -641,6 +641,14 @@ void tst_DCFWriter::oddLayouts_data()
         << QByteArray("[1a00sub1]\nA=x \\")
         << QByteArray("[1a00sub1]\nA=x \\x\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "1a00sub1/A" << "x ";
+    QTest::newRow("byte order mark belongs to the first key outside sections")
+        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=1\n")
+        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "<absent>";
+    QTest::newRow("keys of an unnamed section are not keys outside sections")
+        << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\n")
+        << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("empty section gets no value")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=1\n")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n")
