@@ -498,7 +498,7 @@ QString IniDocument::keyOf(const Line &line) const
     const QByteArray raw = rawKey(line);
     if (line.bomKey)
         return QString::fromLatin1("\xEF\xBB\xBF") + unescapedKey(raw);
-    return line.plainKey ? QString::fromLatin1(raw) : unescapedKey(raw);
+    return line.plainKey ? QString::fromLatin1(raw.constData(), raw.size()) : unescapedKey(raw);
 }
 
 bool IniDocument::keyEquals(const Line &line, const QString &key) const

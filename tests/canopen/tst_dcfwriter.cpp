@@ -456,6 +456,8 @@ void tst_DCFWriter::untouchedRoundTrip_data()
         << QByteArray("\xEF\xBB\xBF[DeviceInfo]\nVendorName=Z\xC3\xA4hler\n[1000]\nAccessType=ro");
     QTest::newRow("continued value goes whole")
         << QByteArray("[2000]\nDenotation=first\\\n second\nA=1\n") << QByteArray("[2000]\nA=1\n");
+    QTest::newRow("key holding zero bytes")
+        << QByteArray("[1a00sub1]\nDenotation\0\0=x\nA=1\n", 30) << QByteArray("[1a00sub1]\nA=1\n");
     QTest::newRow("nothing to drop")
         << QByteArray("[2000]\n\tA = 1 \n\n\n;end") << QByteArray("[2000]\n\tA = 1 \n\n\n;end");
 }
