@@ -130,13 +130,11 @@ bool DCFWriter::setDCFFile(const QString &fileName)
         return false;
     d->storages.push_back(createDocumentStorage(fileName));
     d->storage = d->storages.back().get();
-    // Key by key as listed, each removed as a path (with whatever lies under it).
-    const QStringList keys = d->storage->allKeys();
-    for (const QString &key : keys) {
-        if (key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
-            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive))
-            d->storage->remove(key);
-    }
+    // Each such key goes as a path, with whatever lies under it.
+    d->storage->removeKeysIf([](const QString &key) {
+        return key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
+            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive);
+    });
     d->sections.reset(d->storage->childGroups());
     return true;
 }

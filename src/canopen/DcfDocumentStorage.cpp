@@ -33,6 +33,11 @@ public:
         if (m_document.remove(path))
             m_modified = true;
     }
+    void removeKeysIf(const std::function<bool(const QString &)> &accept) override
+    {
+        if (m_document.removeKeysIf(accept))
+            m_modified = true;
+    }
     bool sync() override
     {
         // An unreadable file is never overwritten with what little we know of it.

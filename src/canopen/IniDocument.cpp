@@ -8,6 +8,7 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -630,6 +631,11 @@ QByteArray IniDocument::toBytes() const
         }
         if (!atStart && !endsWithEol)
             out += m_eol;
+        // Right after a byte order mark the reader takes it into a key outside
+        // sections: a key that was not there first gets a blank line before it.
+        if (atStart && m_bom && id >= 0 && m_lines[size_t(id)].key && m_lines[size_t(id)].block == 0
+            && !m_lines[size_t(id)].bomKey)
+            out += m_eol;
         if (id >= 0 && id == m_openLine)
             openAt = out.size();
         out += raw;
@@ -805,6 +811,43 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     m_lines.push_back(line);
     block.inserted.append(int(m_lines.size()) - 1);
     ++block.liveKeys;
+}
+
+bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept)
+{
+    bool any = false;
+    QString path;
+    QStringList odd;
+    for (size_t b = 0; b < m_blocks.size(); ++b) {
+        const Block &block = m_blocks[b];
+        if (block.removed || block.liveKeys == 0)
+            continue;
+        forEachLine(block, [&](int id) {
+            const Line &line = m_lines[size_t(id)];
+            if (!line.key || line.removed)
+                return;
+            // One buffer for all paths: no allocation per key.
+            path.resize(0);
+            path += block.prefix;
+            if (line.plainKey)
+                path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
+            else
+                path += keyOf(line);
+            if (!accept(path))
+                return;
+            // Removing a path removes what lies under it too; for a path the reader
+            // would normalise, that is another path: removed by path afterwards.
+            if (normalizedPath(path) != path) {
+                odd << path;
+                return;
+            }
+            removeLine(id);
+            any = true;
+        });
+    }
+    for (const QString &p : qAsConst(odd))
+        any = remove(p) || any;
+    return any;
 }
 
 bool IniDocument::remove(const QString &rawPath)

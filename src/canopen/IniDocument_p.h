@@ -8,6 +8,7 @@
 #include <QVariant>
 #include <QVector>
 
+#include <functional>
 #include <vector>
 
 // An INI text edited in place. Keys and sections are read the way QSettings
@@ -34,6 +35,9 @@ public:
     void setValue(const QString &path, const QString &value);
     // A key, or a whole group with all its keys; true if anything went.
     bool remove(const QString &path);
+    // Removes every key whose path the predicate accepts, as removing each path
+    // in turn would; true if any went.
+    bool removeKeysIf(const std::function<bool(const QString &)> &accept);
 
     static QByteArray escapedKey(const QString &key);
     static QByteArray escapedValue(const QString &value);
