@@ -1,3 +1,3 @@
 #include "CANopenTypes.h"
 
-const QString CommonGUI::version = QStringLiteral("0.9");
+QString CommonGUI::version = QStringLiteral("0.9");

@@ -8,7 +8,7 @@
 
 namespace CommonGUI {
 // The library's version, for tools that show what they were built against.
-COMMONGUI_EXPORT extern const QString version;
+COMMONGUI_EXPORT extern QString version;
 }
 
 namespace CAN {

@@ -260,7 +260,23 @@ bool ConciseDcfCreator::parseSectionForIndices(QVector<unsigned short> &indices,
     int count = m_settings->value(QStringLiteral("SupportedObjects"), 0).toString().toInt(&ok, 0);
     if (!ok)
         count = 0;
-    for (int i = 1; i <= count; ++i) {
+    // A count beyond the keys present reads nothing more: only the keys that
+    // exist are visited, so a bogus count costs no time.
+    QVector<int> positions;
+    const QStringList keys = m_settings->childKeys();
+    if (count > keys.size()) {
+        for (const QString &key : keys) {
+            bool isNumber = false;
+            const int n = key.toInt(&isNumber);
+            if (isNumber && n >= 1 && n <= count && QString::number(n) == key)
+                positions.append(n);
+        }
+        std::sort(positions.begin(), positions.end());
+    } else {
+        for (int i = 1; i <= count; ++i)
+            positions.append(i);
+    }
+    for (const int i : qAsConst(positions)) {
         const QByteArray entry = m_settings->value(QString::number(i)).toString().toLocal8Bit();
         unsigned int index = 0;
         // Deliberately strict: only a literal lower-case "0x" prefix is accepted.

@@ -130,6 +130,7 @@ bool DCFWriter::setDCFFile(const QString &fileName)
         return false;
     d->storages.push_back(createDocumentStorage(fileName));
     d->storage = d->storages.back().get();
+    // Each such key goes as a path, with whatever lies under it.
     d->storage->removeKeysIf([](const QString &key) {
         return key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
             || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive);

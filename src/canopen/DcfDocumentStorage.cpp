@@ -21,7 +21,7 @@ public:
     QStringList childGroups() const override { return m_document.childGroups(); }
     QVariant value(const QString &path, const QVariant &defaultValue) const override
     {
-        return m_document.contains(path) ? QVariant(m_document.value(path)) : defaultValue;
+        return m_document.variantValue(path, defaultValue);
     }
     void setValue(const QString &path, const QVariant &value) override
     {
@@ -30,8 +30,8 @@ public:
     }
     void remove(const QString &path) override
     {
-        m_document.remove(path);
-        m_modified = true;
+        if (m_document.remove(path))
+            m_modified = true;
     }
     void removeKeysIf(const std::function<bool(const QString &)> &accept) override
     {

@@ -1,9 +1,14 @@
 #include "IniDocument_p.h"
 
+#include <QDataStream>
 #include <QFile>
+#include <QRect>
 #include <QSaveFile>
+#include <QSize>
+#include <QTextCodec>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -20,23 +25,6 @@ int eolLength(const QByteArray &raw)
     if (raw.endsWith('\n') || raw.endsWith('\r'))
         return 1;
     return 0;
-}
-
-QByteArray trimmedLeft(const QByteArray &text)
-{
-    int i = 0;
-    while (i < text.size() && isSpace(text.at(i)))
-        ++i;
-    return text.mid(i);
-}
-
-// An odd number of trailing backslashes escapes the line break: the entry goes on.
-bool continues(const QByteArray &content)
-{
-    int n = 0;
-    for (int i = content.size() - 1; i >= 0 && content.at(i) == '\\'; --i)
-        ++n;
-    return n % 2 == 1;
 }
 
 QString normalizedPath(const QString &path)
@@ -81,7 +69,7 @@ QString IniDocument::unescapedKey(const QByteArray &raw)
             digits = 4;
         }
         bool ok = false;
-        const int code = first + digits <= to ? raw.mid(first, digits).toInt(&ok, 16) : 0;
+        const ushort code = first + digits <= to ? raw.mid(first, digits).toUShort(&ok, 16) : 0;
         if (!ok) {
             result += QLatin1Char('%');
             ++i;
@@ -166,81 +154,155 @@ QByteArray IniDocument::escapedValue(const QString &value)
     return result;
 }
 
-QString IniDocument::unescapedValue(const QByteArray &raw)
+QVariant IniDocument::parsedValue(const QByteArray &raw)
 {
-    QByteArray bytes;
-    int keep = 0;  // bytes up to here survive trimming: quoted or not blank
+    static QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
+    const char *str = raw.constData();
+    const int to = raw.size();
+    QString result;
+    QStringList list;
+    bool isList = false;
+    bool inQuotes = false;
     bool quoted = false;
     int i = 0;
-    const int n = raw.size();
-    while (i < n && isSpace(raw.at(i)))
-        ++i;
-    auto appendCode = [&](uint code) {
-        bytes += QString::fromUcs4(&code, 1).toUtf8();
-        keep = bytes.size();
+    auto skipSpaces = [&] {
+        while (i < to && isSpace(str[i]))
+            ++i;
     };
-    while (i < n) {
-        const char ch = raw.at(i);
-        if (ch == '"') {
-            quoted = !quoted;
-            keep = bytes.size();
+    // Blanks before this point are kept: they came from an escape or quotes.
+    int chopLimit = 0;
+    auto chop = [&] {
+        int n = result.size();
+        while (n > chopLimit && (result.at(n - 1) == QLatin1Char(' ') || result.at(n - 1) == QLatin1Char('\t')))
+            --n;
+        result.truncate(n);
+    };
+    auto isHex = [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+    };
+    skipSpaces();
+    bool atEnd = false;  // input ran out inside an escape: no trailing blanks are chopped
+    while (i < to && !atEnd) {
+        const char ch = str[i];
+        if (ch == '\\') {
             ++i;
-        } else if (ch == '\\' && i + 1 < n) {
-            const char next = raw.at(i + 1);
-            i += 2;
-            switch (next) {
-            case 'a': appendCode('\a'); break;
-            case 'b': appendCode('\b'); break;
-            case 'f': appendCode('\f'); break;
-            case 'n': appendCode('\n'); break;
-            case 'r': appendCode('\r'); break;
-            case 't': appendCode('\t'); break;
-            case 'v': appendCode('\v'); break;
-            case '\n':
-            case '\r':
-                if (i < n && (raw.at(i) == '\n' || raw.at(i) == '\r') && raw.at(i) != next)
-                    ++i;
-                break;
-            case 'x': {
-                uint code = 0;
-                int digits = 0;
-                while (i < n && digits < 4 && isxdigit(uchar(raw.at(i)))) {
-                    code = code * 16 + uint(QByteArray(1, raw.at(i)).toInt(nullptr, 16));
-                    ++i;
-                    ++digits;
-                }
-                appendCode(code);
+            if (i >= to) {
+                atEnd = true;
                 break;
             }
-            default:
-                if (next >= '0' && next <= '7') {
-                    uint code = uint(next - '0');
-                    int digits = 1;
-                    while (i < n && digits < 3 && raw.at(i) >= '0' && raw.at(i) <= '7') {
-                        code = code * 8 + uint(raw.at(i) - '0');
-                        ++i;
-                        ++digits;
-                    }
-                    appendCode(code);
-                } else {
-                    bytes += next;
-                    keep = bytes.size();
+            const char next = str[i++];
+            static const char codes[][2] = { { 'a', '\a' }, { 'b', '\b' }, { 'f', '\f' }, { 'n', '\n' },
+                                             { 'r', '\r' }, { 't', '\t' }, { 'v', '\v' }, { '"', '"' },
+                                             { '?', '?' }, { '\'', '\'' }, { '\\', '\\' } };
+            bool mapped = false;
+            for (const auto &code : codes) {
+                if (next == code[0]) {
+                    result += QLatin1Char(code[1]);
+                    mapped = true;
+                    break;
                 }
             }
-        } else if (!quoted && (ch == ';' || ch == '\n' || ch == '\r')) {
-            break;
+            if (mapped) {
+                chopLimit = result.size();
+                continue;
+            }
+            const bool hex = next == 'x';
+            if (hex || (next >= '0' && next <= '7')) {
+                if (hex && i >= to) {
+                    atEnd = true;
+                    break;
+                }
+                if (hex && !isHex(str[i]))
+                    continue;  // "\x" without digits stands for nothing
+                quint16 code = hex ? 0 : quint16(next - '0');
+                while (i < to && (hex ? isHex(str[i]) : (str[i] >= '0' && str[i] <= '7'))) {
+                    const char d = str[i++];
+                    const int digit = d <= '9' ? d - '0' : (d | 0x20) - 'a' + 10;
+                    code = quint16((code << (hex ? 4 : 3)) + digit);
+                }
+                result += QChar(code);
+                if (i >= to) {
+                    atEnd = true;
+                    break;
+                }
+                chopLimit = result.size();
+                continue;
+            }
+            if ((next == '\n' || next == '\r') && i < to && (str[i] == '\n' || str[i] == '\r') && str[i] != next)
+                ++i;
+            // Any other escaped character is dropped.
+        } else if (ch == '"') {
+            ++i;
+            quoted = true;
+            inQuotes = !inQuotes;
+            if (!inQuotes) {
+                skipSpaces();
+                chopLimit = result.size();
+            }
+        } else if (ch == ',' && !inQuotes) {
+            if (!quoted)
+                chop();
+            isList = true;
+            list.append(result);
+            result.clear();
+            quoted = false;
+            ++i;
+            skipSpaces();
+            chopLimit = 0;
         } else {
-            bytes += ch;
-            if (quoted || !isSpace(ch))
-                keep = bytes.size();
-            ++i;
+            int j = i + 1;
+            while (j < to && str[j] != '\\' && str[j] != '"' && str[j] != ',')
+                ++j;
+            result += codec->toUnicode(str + i, j - i);
+            i = j;
         }
     }
-    bytes.truncate(keep);
-    QString value = QString::fromUtf8(bytes);
-    if (value.startsWith(QLatin1String("@@")))
-        value.remove(0, 1);
-    return value;
+    if (!atEnd && !quoted)
+        chop();
+    if (!isList)
+        return typedValue(result);
+    list.append(result);
+    for (const QString &item : qAsConst(list)) {
+        if (item.startsWith(QLatin1Char('@'))) {
+            QVariantList variants;
+            for (const QString &entry : qAsConst(list))
+                variants.append(typedValue(entry));
+            return variants;
+        }
+    }
+    return list;
+}
+
+// The "@Type(...)" forms the reader turns into other types than text.
+QVariant IniDocument::typedValue(const QString &text)
+{
+    if (!text.startsWith(QLatin1Char('@')))
+        return text;
+    if (text.endsWith(QLatin1Char(')'))) {
+        if (text.startsWith(QLatin1String("@ByteArray(")))
+            return text.midRef(11, text.size() - 12).toLatin1();
+        if (text.startsWith(QLatin1String("@String(")))
+            return text.mid(8, text.size() - 9);
+        if (text.startsWith(QLatin1String("@Variant(")) || text.startsWith(QLatin1String("@DateTime("))) {
+            const bool dateTime = text.at(1) == QLatin1Char('D');
+            QByteArray bytes = text.midRef(dateTime ? 10 : 9).toLatin1();
+            QDataStream stream(&bytes, QIODevice::ReadOnly);
+            stream.setVersion(dateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
+            QVariant result;
+            stream >> result;
+            return result;
+        }
+        const int args = text.count(QLatin1Char(' ')) + text.count(QLatin1Char(')'));
+        if (text.startsWith(QLatin1String("@Rect(")) && args == 4)
+            return QRect();
+        if ((text.startsWith(QLatin1String("@Size(")) || text.startsWith(QLatin1String("@Point("))) && args == 2)
+            return QSize();
+        if (text == QLatin1String("@Invalid()"))
+            return QVariant();
+    }
+    if (text.startsWith(QLatin1String("@@")))
+        return text.mid(1);
+    return text;
 }
 
 void IniDocument::parse(const QByteArray &input)
@@ -253,6 +315,8 @@ void IniDocument::parse(const QByteArray &input)
     m_eol = "\n";
     m_source = input;
     m_bom = m_source.startsWith("\xEF\xBB\xBF");
+    m_openEnd = QByteArray();
+    m_openLine = -1;
 
     // Sections are about a tenth of the lines: sized once, no rehashing.
     const int expected = int(m_source.count('[')) + 1;
@@ -270,12 +334,11 @@ void IniDocument::parse(const QByteArray &input)
     bool eolSeen = false;
     QString section;
     int pos = m_bom ? 3 : 0;
-    // Ends the physical line starting at `from`: returns the offset after its line break.
-    auto lineEnd = [&](int from, int *contentEnd) {
-        int i = from;
+    // The offset after the line break of the physical line holding `at`.
+    auto physicalEnd = [&](int at) {
+        int i = at;
         while (i < size && data[i] != '\n' && data[i] != '\r')
             ++i;
-        *contentEnd = i;
         if (i < size) {
             const int eolStart = i;
             if (data[i] == '\r' && i + 1 < size && data[i + 1] == '\n')
@@ -291,67 +354,113 @@ void IniDocument::parse(const QByteArray &input)
     while (pos < size) {
         Line line;
         line.offset = pos;
-        int end = 0;
-        int next = lineEnd(pos, &end);
-        int begin = pos;
-        while (begin < end && isSpace(data[begin]))
-            ++begin;
         line.block = int(m_blocks.size()) - 1;
+        int begin = pos;
+        while (begin < size && isSpace(data[begin]))
+            ++begin;
+        // An entry ends at a line break or a comment outside quotes; quotes and
+        // backslashes carry it over line breaks, as the settings reader does.
+        int equals = -1;
+        int end = begin;
+        bool inQuotes = false;
+        bool escapedEnd = false;
+        bool loneBackslash = false;
+        bool escapedBreak = false;
+        if (begin < size && data[begin] != ';' && data[begin] != '\n' && data[begin] != '\r') {
+            while (end < size) {
+                const char ch = data[end++];
+                if (ch == '=') {
+                    if (!inQuotes && equals < 0)
+                        equals = end - 1;
+                } else if (ch == '\n' || ch == '\r' || ch == ';') {
+                    if (!inQuotes) {
+                        --end;
+                        break;
+                    }
+                } else if (ch == '\\') {
+                    loneBackslash = end >= size;
+                    escapedBreak = false;
+                    if (end < size) {
+                        const char escaped = data[end++];
+                        escapedBreak = escaped == '\n' || escaped == '\r';
+                        if (end < size) {
+                            const char after = data[end];
+                            if ((escaped == '\n' && after == '\r') || (escaped == '\r' && after == '\n'))
+                                ++end;
+                        }
+                    }
+                    escapedEnd = end >= size && (loneBackslash || escapedBreak);
+                } else if (ch == '"') {
+                    inQuotes = !inQuotes;
+                }
+            }
+        }
+        const int next = physicalEnd(end);
+        line.length = next - pos;
+        if (end >= size && (inQuotes || escapedEnd)) {
+            // Anything after this entry would become part of it: what closes it
+            // without changing what it says. A lone backslash at the end escapes
+            // nothing; "\\x" without digits stands for nothing either.
+            const bool lone = loneBackslash;
+            m_openEnd = lone ? QByteArray(equals >= 0 ? "x" : " ") : QByteArray();
+            if (inQuotes)
+                m_openEnd += '"';
+            else if (!lone)
+                m_openEnd = m_eol;
+            m_openLine = int(m_lines.size());
+        }
         if (begin < end && data[begin] == '[') {
-            int close = begin + 1;
-            while (close < end && data[close] != ']')
-                ++close;
-            const QByteArray name = QByteArray(data + begin + 1, close - begin - 1).trimmed();
+            const int close = m_source.indexOf(']', begin);
+            const QByteArray name = (close < 0 || close >= end)
+                ? QByteArray(data + begin + 1, end - begin - 1).trimmed()
+                : QByteArray(data + begin + 1, close - begin - 1).trimmed();
+            // Keys of a section are "name/key", outside sections just "key";
+            // "[]" is a section of its own, its keys "/key".
             if (name.compare("general", Qt::CaseInsensitive) == 0)
                 section.clear();
             else if (name.compare("%general", Qt::CaseInsensitive) == 0)
                 section = QString::fromLatin1(name.mid(1));
             else
                 section = unescapedKey(name);
+            const bool general = name.compare("general", Qt::CaseInsensitive) == 0;
             Block block;
             block.name = section;
+            block.prefix = general ? QString() : section + QLatin1Char('/');
             block.header = int(m_lines.size());
             block.first = block.header + 1;
             const int id = int(m_blocks.size());
-            const auto last = lastBlock.constFind(section);
+            const auto last = lastBlock.constFind(block.prefix);
             if (last == lastBlock.constEnd())
-                m_firstBlock.insert(section, id);
+                m_firstBlock.insert(block.prefix, id);
             else
                 m_blocks[size_t(*last)].nextSameName = id;
-            lastBlock.insert(section, id);
+            lastBlock.insert(block.prefix, id);
             if (section.contains(QLatin1Char('/')))
                 m_slashedSections.insert(section);
             m_blocks.push_back(block);
             line.block = id;
-            line.length = next - pos;
             m_lines.push_back(line);
             pos = next;
             continue;
         }
-        int eq = begin;
-        while (eq < end && data[eq] != '=')
-            ++eq;
-        if (begin < end && data[begin] != ';' && eq > begin && eq < end) {
-            // An odd number of trailing backslashes carries the entry onto the next line.
-            auto continues = [&](int contentEnd) {
-                int n = 0;
-                for (int i = contentEnd - 1; i >= pos && data[i] == '\\'; --i)
-                    ++n;
-                return n % 2 == 1;
-            };
-            while (continues(end) && next < size)
-                next = lineEnd(next, &end);
-            int keyEnd = eq;
+        if (equals >= 0) {
+            // The reader takes a byte order mark into the first key outside sections.
+            line.bomKey = m_bom && pos == 3;
+            if (line.bomKey)
+                begin = pos;
+            int keyEnd = equals;
             while (keyEnd > begin && isSpace(data[keyEnd - 1]))
                 --keyEnd;
             line.keyBegin = begin - pos;
             line.keyLength = keyEnd - begin;
-            line.key = line.keyLength > 0;
+            line.equals = equals - pos;
+            line.valueEnd = end - pos;
+            line.key = true;
             line.plainKey = true;
             for (int i = begin; i < keyEnd && line.plainKey; ++i)
                 line.plainKey = data[i] != '%' && data[i] != '\\';
+            line.plainKey = line.plainKey && !line.bomKey;
         }
-        line.length = next - pos;
         m_lines.push_back(line);
         Block &block = m_blocks[size_t(line.block)];
         ++block.count;
@@ -388,7 +497,9 @@ QByteArray IniDocument::rawKey(const Line &line) const
 QString IniDocument::keyOf(const Line &line) const
 {
     const QByteArray raw = rawKey(line);
-    return line.plainKey ? QString::fromLatin1(raw) : unescapedKey(raw);
+    if (line.bomKey)
+        return QString::fromLatin1("\xEF\xBB\xBF") + unescapedKey(raw);
+    return line.plainKey ? QString::fromLatin1(raw.constData(), raw.size()) : unescapedKey(raw);
 }
 
 bool IniDocument::keyEquals(const Line &line, const QString &key) const
@@ -409,18 +520,16 @@ bool IniDocument::keyStartsWith(const Line &line, const QString &prefix) const
 int IniDocument::findLine(const QString &path, int *sectionBlock) const
 {
     int found = -1;
-    int foundBlock = -1;
     int slash = -1;
     const int firstSlash = path.indexOf(QLatin1Char('/'));
     if (sectionBlock)
         *sectionBlock = -1;
     // A path may split into section and key at any slash, or be a key outside sections.
     do {
-        const QString section = slash < 0 ? QString() : path.left(slash);
         const QString key = slash < 0 ? path : path.mid(slash + 1);
         if (slash >= 0 || !path.isEmpty()) {
             // Keys outside sections start in block 0, always.
-            const int first = slash < 0 ? 0 : m_firstBlock.value(section, -1);
+            const int first = slash < 0 ? 0 : m_firstBlock.value(path.left(slash + 1), -1);
             for (int b = first; b >= 0; b = m_blocks[size_t(b)].nextSameName) {
                 const Block &block = m_blocks[size_t(b)];
                 if (sectionBlock && slash == firstSlash && !block.removed)
@@ -429,10 +538,9 @@ int IniDocument::findLine(const QString &path, int *sectionBlock) const
                     continue;
                 forEachLine(block, [&](int id) {
                     const Line &line = m_lines[size_t(id)];
-                    if (line.key && !line.removed && keyEquals(line, key) && b >= foundBlock) {
+                    // Later blocks of one name, and longer section names, override.
+                    if (line.key && !line.removed && keyEquals(line, key))
                         found = id;
-                        foundBlock = b;
-                    }
                 });
             }
         }
@@ -461,27 +569,30 @@ void IniDocument::removeBlock(int id)
     forEachLine(block, [this](int line) { removeLine(line); });
 }
 
+QByteArray IniDocument::headerText(const QString &name)
+{
+    if (name.isEmpty())
+        return "[General]";
+    if (name.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
+        return "[%" + name.toLatin1() + ']';
+    return '[' + escapedKey(name) + ']';
+}
+
 int IniDocument::newBlock(const QString &name)
 {
     Block block;
     block.name = name;
+    block.prefix = name.isEmpty() ? QString() : name + QLatin1Char('/');
     block.added = true;
-    QByteArray header;
-    if (name.isEmpty())
-        header = "General";
-    else if (name.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
-        header = '%' + name.toLatin1();
-    else
-        header = escapedKey(name);
     const int id = int(m_blocks.size());
     Line line;
-    setText(line, '[' + header + ']' + m_eol);
+    setText(line, headerText(name) + m_eol);
     line.block = id;
     m_lines.push_back(line);
     block.header = int(m_lines.size()) - 1;
-    int last = m_firstBlock.value(name, -1);
+    int last = m_firstBlock.value(block.prefix, -1);
     if (last < 0) {
-        m_firstBlock.insert(name, id);
+        m_firstBlock.insert(block.prefix, id);
     } else {
         while (m_blocks[size_t(last)].nextSameName >= 0)
             last = m_blocks[size_t(last)].nextSameName;
@@ -502,9 +613,31 @@ QByteArray IniDocument::toBytes() const
     bool atStart = true;
     bool endsWithEol = true;
     bool lastBlank = true;
-    auto put = [&](const QByteArray &raw) {
+    int openAt = -1;  // where an entry that runs to the end of the loaded text starts
+    auto put = [&](const QByteArray &raw, int id) {
+        if (openAt >= 0) {
+            // Something follows the entry that ran to the end: close it first.
+            const Line &open = m_lines[size_t(m_openLine)];
+            if (m_blocks[size_t(open.block)].header == m_openLine) {
+                out.truncate(openAt);
+                const Block &block = m_blocks[size_t(open.block)];
+                out += block.prefix.isEmpty() || !block.name.isEmpty() ? headerText(block.name) : QByteArray("[]");
+                endsWithEol = false;
+            } else {
+                out += m_openEnd;
+                endsWithEol = eolLength(m_openEnd) > 0;
+            }
+            openAt = -1;
+        }
         if (!atStart && !endsWithEol)
             out += m_eol;
+        // Right after a byte order mark the reader takes it into a key outside
+        // sections: a key that was not there first gets a blank line before it.
+        if (atStart && m_bom && id >= 0 && m_lines[size_t(id)].key && m_lines[size_t(id)].block == 0
+            && !m_lines[size_t(id)].bomKey)
+            out += m_eol;
+        if (id >= 0 && id == m_openLine)
+            openAt = out.size();
         out += raw;
         atStart = false;
         endsWithEol = eolLength(raw) > 0;
@@ -514,12 +647,12 @@ QByteArray IniDocument::toBytes() const
         if (block.removed)
             continue;
         if (block.added && !atStart && !lastBlank)
-            put(m_eol);
+            put(m_eol, -1);
         if (block.header >= 0)
-            put(rawLine(block.header));
+            put(rawLine(block.header), block.header);
         forEachLine(block, [&](int id) {
             if (!m_lines[size_t(id)].removed)
-                put(rawLine(id));
+                put(rawLine(id), id);
         });
     }
     return out;
@@ -564,7 +697,7 @@ QStringList IniDocument::allKeys() const
         forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
             if (line.key && !line.removed)
-                keys.insert(block.name.isEmpty() ? keyOf(line) : block.name + QLatin1Char('/') + keyOf(line));
+                keys.insert(block.prefix + keyOf(line));
         });
     }
     QStringList sorted = keys.values();
@@ -579,7 +712,7 @@ QStringList IniDocument::childGroups() const
     for (const Block &block : m_blocks) {
         if (block.removed || block.liveKeys == 0)
             continue;
-        if (!block.name.isEmpty()) {
+        if (!block.prefix.isEmpty()) {
             groups.append(block.name.contains(QLatin1Char('/')) ? firstSegment(block.name) : block.name);
             continue;
         }
@@ -604,8 +737,19 @@ QString IniDocument::value(const QString &path, const QString &defaultValue) con
     const int id = findLine(normalizedPath(path));
     if (id < 0)
         return defaultValue;
-    const QByteArray raw = rawLine(id);
-    return unescapedValue(raw.mid(raw.indexOf('=') + 1));
+    return lineValue(id).toString();
+}
+
+QVariant IniDocument::variantValue(const QString &path, const QVariant &defaultValue) const
+{
+    const int id = findLine(normalizedPath(path));
+    return id < 0 ? defaultValue : lineValue(id);
+}
+
+QVariant IniDocument::lineValue(int id) const
+{
+    const Line &line = m_lines[size_t(id)];
+    return parsedValue(QByteArray::fromRawData(base(line) + line.equals + 1, line.valueEnd - line.equals - 1));
 }
 
 void IniDocument::setValue(const QString &rawPath, const QString &value)
@@ -621,9 +765,20 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
         Line &line = m_lines[size_t(existing)];
         const QByteArray old = rawLine(existing);
         const QByteArray eol(old.constData() + old.size() - eolLength(old), eolLength(old));
-        const QByteArray key = rawKey(line);
+        // The key as written; a blank after a final backslash stays, or the
+        // backslash would escape the '='.
+        QByteArray key(base(line) + line.keyBegin, line.keyLength);
+        int backslashes = 0;
+        while (backslashes < key.size() && key.at(key.size() - 1 - backslashes) == '\\')
+            ++backslashes;
+        if (backslashes % 2 == 1)
+            key += ' ';
         setText(line, key + '=' + escaped + eol);
+        line.equals = key.size();
         line.keyBegin = 0;
+        line.valueEnd = line.length - eol.size();
+        if (existing == m_openLine)
+            m_openLine = -1;
         return;
     }
     const int slash = path.indexOf(QLatin1Char('/'));
@@ -650,10 +805,49 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     line.key = true;
     line.plainKey = !rawKeyText.contains('%') && !rawKeyText.contains('\\');
     line.keyLength = rawKeyText.size();
+    line.equals = rawKeyText.size();
+    line.valueEnd = line.length - m_eol.size();
     line.block = blockId;
     m_lines.push_back(line);
     block.inserted.append(int(m_lines.size()) - 1);
     ++block.liveKeys;
+}
+
+bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept)
+{
+    bool any = false;
+    QString path;
+    QStringList odd;
+    for (size_t b = 0; b < m_blocks.size(); ++b) {
+        const Block &block = m_blocks[b];
+        if (block.removed || block.liveKeys == 0)
+            continue;
+        forEachLine(block, [&](int id) {
+            const Line &line = m_lines[size_t(id)];
+            if (!line.key || line.removed)
+                return;
+            // One buffer for all paths: no allocation per key.
+            path.resize(0);
+            path += block.prefix;
+            if (line.plainKey)
+                path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
+            else
+                path += keyOf(line);
+            if (!accept(path))
+                return;
+            // Removing a path removes what lies under it too; for a path the reader
+            // would normalise, that is another path: removed by path afterwards.
+            if (normalizedPath(path) != path) {
+                odd << path;
+                return;
+            }
+            removeLine(id);
+            any = true;
+        });
+    }
+    for (const QString &p : qAsConst(odd))
+        any = remove(p) || any;
+    return any;
 }
 
 bool IniDocument::remove(const QString &rawPath)
@@ -665,10 +859,10 @@ bool IniDocument::remove(const QString &rawPath)
     int slash = -1;
     // Every split into section and key (and no section at all) can hold keys of the path.
     do {
-        const QString section = slash < 0 ? QString() : path.left(slash);
         const QString key = slash < 0 ? path : path.mid(slash + 1);
         const QString prefix = key + QLatin1Char('/');
-        for (int b = m_firstBlock.value(section, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
+        const int first = slash < 0 ? 0 : m_firstBlock.value(path.left(slash + 1), -1);
+        for (int b = first; b >= 0; b = m_blocks[size_t(b)].nextSameName) {
             const Block &block = m_blocks[size_t(b)];
             if (block.removed || block.liveKeys == 0)
                 continue;
@@ -690,41 +884,12 @@ bool IniDocument::remove(const QString &rawPath)
             sections << name;
     }
     for (const QString &name : qAsConst(sections)) {
-        for (int b = m_firstBlock.value(name, -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
+        for (int b = m_firstBlock.value(name + QLatin1Char('/'), -1); b >= 0; b = m_blocks[size_t(b)].nextSameName) {
             if (!m_blocks[size_t(b)].removed) {
                 any = any || m_blocks[size_t(b)].liveKeys > 0;
                 removeBlock(b);
             }
         }
-    }
-    return any;
-}
-
-bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept)
-{
-    bool any = false;
-    QString path;
-    for (size_t b = 0; b < m_blocks.size(); ++b) {
-        const Block &block = m_blocks[b];
-        if (block.removed || block.liveKeys == 0)
-            continue;
-        const QString prefix = block.name.isEmpty() ? QString() : block.name + QLatin1Char('/');
-        forEachLine(block, [&](int id) {
-            const Line &line = m_lines[size_t(id)];
-            if (!line.key || line.removed)
-                return;
-            // One buffer for all paths: no allocation per key.
-            path.resize(0);
-            path += prefix;
-            if (line.plainKey)
-                path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
-            else
-                path += keyOf(line);
-            if (accept(path)) {
-                removeLine(id);
-                any = true;
-            }
-        });
     }
     return any;
 }

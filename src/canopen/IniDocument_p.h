@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 #include <functional>
@@ -26,18 +27,23 @@ public:
     QStringList allKeys() const;
     QStringList childGroups() const;
     bool contains(const QString &path) const;
-    // The value as text, unquoted and unescaped; commas do not split it.
+    // The value as the settings reader returns it: text, a list where commas
+    // split it, or another type for the "@Type(...)" forms.
+    QVariant variantValue(const QString &path, const QVariant &defaultValue = QVariant()) const;
+    // The same as text, as QVariant::toString() gives it (empty for lists).
     QString value(const QString &path, const QString &defaultValue = QString()) const;
     void setValue(const QString &path, const QString &value);
     // A key, or a whole group with all its keys; true if anything went.
     bool remove(const QString &path);
-    // Drops every key whose path the predicate accepts; true if any went.
+    // Removes every key whose path the predicate accepts, as removing each path
+    // in turn would; true if any went.
     bool removeKeysIf(const std::function<bool(const QString &)> &accept);
 
     static QByteArray escapedKey(const QString &key);
     static QByteArray escapedValue(const QString &value);
     static QString unescapedKey(const QByteArray &raw);
-    static QString unescapedValue(const QByteArray &raw);
+    static QVariant parsedValue(const QByteArray &raw);
+    static QVariant typedValue(const QString &text);
 
 private:
     // Lines point into the loaded text until they are rewritten: no copy per line.
@@ -48,14 +54,18 @@ private:
         int block = 0;
         int keyBegin = 0;  // raw key, relative to the line's start
         int keyLength = 0;
+        int equals = 0;  // the '=' and the end of the value, relative as well
+        int valueEnd = 0;
         bool extra = false;  // offset and length point into m_extra: rewritten or added
         bool key = false;
         bool plainKey = false;  // no escapes: raw bytes are the key
+        bool bomKey = false;  // the byte order mark before it is part of the key
         bool removed = false;
     };
     struct Block
     {
         QString name;  // "" for keys outside any section
+        QString prefix;  // what the keys' paths start with: "" outside sections, else name + "/"
         int header = -1;
         int nextSameName = -1;
         int liveKeys = 0;
@@ -80,6 +90,8 @@ private:
             f(block.first + i);
     }
 
+    static QByteArray headerText(const QString &name);
+    QVariant lineValue(int id) const;
     QByteArray rawLine(int id) const;
     QByteArray rawKey(const Line &line) const;
     QString keyOf(const Line &line) const;
@@ -98,7 +110,11 @@ private:
     bool m_bom = false;
     std::vector<Line> m_lines;
     std::vector<Block> m_blocks;
+    // The last entry when it runs to the end of the text (open quote or escape),
+    // and what closes it once anything follows.
+    int m_openLine = -1;
+    QByteArray m_openEnd;
     QByteArray m_extra;  // text of rewritten and added lines, appended
-    QHash<QString, int> m_firstBlock;  // section name -> first block of that name
+    QHash<QString, int> m_firstBlock;  // path prefix -> first block with it
     QSet<QString> m_slashedSections;  // section names holding an escaped slash
 };

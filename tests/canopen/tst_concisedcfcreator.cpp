@@ -61,6 +61,8 @@ void tst_ConciseDcfCreator::parseSection_data()
         << QByteArray("SupportedObjects=-1\n1=0x1000\n") << Indices{};
     QTest::newRow("count beyond the keys")
         << QByteArray("SupportedObjects=4\n2=0x6000\n") << Indices{ 0x6000 };
+    QTest::newRow("huge count visits only the keys present")
+        << QByteArray("SupportedObjects=0x7fffffff\n3=0x3000\n1=0x1000\n01=0x0100\n") << Indices{ 0x1000, 0x3000 };
     QTest::newRow("wide value keeps low 16 bits")
         << QByteArray("SupportedObjects=1\n1=0x12345\n") << Indices{ 0x2345 };
 }

@@ -340,6 +340,9 @@ void tst_DCFWriter::optionalObjects_data()
     QTest::newRow("empty list clears")
         << QByteArray("[OptionalObjects]\nSupportedObjects=2\n1=0x1800\n2=0x1801\n")
         << QList<unsigned short>{} << Sections{ { "SupportedObjects", "0" } };
+    QTest::newRow("count read with the reader's escapes")
+        << QByteArray("[OptionalObjects]\nSupportedObjects=\\q2\n1=0x1800\n2=0x1801\n")
+        << QList<unsigned short>{ 0x2001 } << Sections{ { "SupportedObjects", "1" }, { "1", "0x2001" } };
     QTest::newRow("no section yet, padded lower-case hex")
         << QByteArray("[FileInfo]\nA=1\n")
         << QList<unsigned short>{ 0xFFFF, 0x0001, 0x1a00, 0x0001 }
@@ -453,6 +456,8 @@ void tst_DCFWriter::untouchedRoundTrip_data()
         << QByteArray("\xEF\xBB\xBF[DeviceInfo]\nVendorName=Z\xC3\xA4hler\n[1000]\nAccessType=ro");
     QTest::newRow("continued value goes whole")
         << QByteArray("[2000]\nDenotation=first\\\n second\nA=1\n") << QByteArray("[2000]\nA=1\n");
+    QTest::newRow("key holding zero bytes")
+        << QByteArray("[1a00sub1]\nDenotation\0\0=x\nA=1\n", 30) << QByteArray("[1a00sub1]\nA=1\n");
     QTest::newRow("nothing to drop")
         << QByteArray("[2000]\n\tA = 1 \n\n\n;end") << QByteArray("[2000]\n\tA = 1 \n\n\n;end");
 }
@@ -620,6 +625,36 @@ void tst_DCFWriter::oddLayouts_data()
         << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\n")
         << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "X" << "5";
+    // Entries end where the settings reader ends them: quotes carry over line breaks,
+    // and a longer section name overrides a key of the same path outside it.
+    QTest::newRow("quoted value over two lines is one entry")
+        << QByteArray("[FileInfo]\nX=\"a\nb\"\n[1a00sub1]\nA=1\n")
+        << QByteArray("[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("section key overrides a slashed key outside sections")
+        << QByteArray("[FileInfo]\nX=1\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\n")
+        << QByteArray("[FileInfo]\nX=3\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\nParameterValue=7\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("text ending inside quotes is closed first")
+        << QByteArray("[1a00sub1]\nA=\"open")
+        << QByteArray("[1a00sub1]\nA=\"open\"\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/A" << "open";
+    QTest::newRow("final backslash escapes nothing that follows")
+        << QByteArray("[1a00sub1]\nA=x \\")
+        << QByteArray("[1a00sub1]\nA=x \\x\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/A" << "x ";
+    QTest::newRow("byte order mark belongs to the first key outside sections")
+        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=1\n")
+        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "<absent>";
+    QTest::newRow("keys of an unnamed section are not keys outside sections")
+        << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\n")
+        << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("byte order mark kept off a key that moves up to it")
+        << QByteArray("\xEF\xBB\xBF" "ParameterValue=1\nX=1\n")
+        << QByteArray("\xEF\xBB\xBF\nX=1\n\n[FileInfo]\nX=3\n")
+        << "X" << "1";
     QTest::newRow("empty section gets no value")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=1\n")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n")

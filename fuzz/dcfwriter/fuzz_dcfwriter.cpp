@@ -1,0 +1,121 @@
+// Arbitrary INI text through the DCF writer: the first four bytes choose the
+// object (index, sub-index) and which edits run, the rest is the file. What a
+// QSettings reader sees in the written file must equal what QSettings itself
+// holds after the same edits.
+#include "DCFWriter.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+QString section(QSettings &settings, quint16 index, quint8 subIndex)
+{
+    const QStringList groups = settings.childGroups();
+    const QString idx = QStringLiteral("%1").arg(index, 4, 16, QLatin1Char('0'));
+    const QString sub = QString::number(subIndex, 16);
+    QString candidate = idx + QLatin1String("sub") + sub;
+    if (!groups.contains(candidate)) {
+        candidate = idx.toUpper() + QLatin1String("sub") + sub.toUpper();
+        if (!groups.contains(candidate) && subIndex == 0) {
+            candidate = idx;
+            if (!groups.contains(candidate))
+                candidate = idx.toUpper();
+        }
+    }
+    for (const QString &group : groups) {
+        if (group.compare(candidate, Qt::CaseInsensitive) == 0)
+            return group;
+    }
+    return QString();
+}
+
+void writeBytes(const QString &name, const uint8_t *data, size_t size)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        abort();
+    file.write(reinterpret_cast<const char *>(data), qint64(size));
+}
+
+void fail(const char *what, const QString &key, const QVariant &ours, const QVariant &theirs)
+{
+    fprintf(stderr, "%s: key \"%s\": ours \"%s\" (%s), QSettings \"%s\" (%s)\n", what, qPrintable(key),
+            qPrintable(ours.toStringList().join(QLatin1Char('|'))), ours.typeName(),
+            qPrintable(theirs.toStringList().join(QLatin1Char('|'))), theirs.typeName());
+    abort();
+}
+
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
+{
+    static QTemporaryDir dir;
+    if (size < 4)
+        return 0;
+    quint16 index;
+    std::memcpy(&index, input, 2);
+    const quint8 subIndex = input[2];
+    const quint8 flags = input[3];
+    const QString value = (flags & 1) ? QStringLiteral("0x7f, \"x\"") : QStringLiteral("1");
+    const QString denotation = (flags & 2) ? QString() : QStringLiteral("Den ;=");
+
+    // New names every run: QSettings caches a file it has seen by name, size and time.
+    static int run = 0;
+    ++run;
+    const QString ours = dir.filePath(QStringLiteral("ours%1.dcf").arg(run));
+    const QString theirs = dir.filePath(QStringLiteral("theirs%1.dcf").arg(run));
+    writeBytes(ours, input + 4, size - 4);
+    writeBytes(theirs, input + 4, size - 4);
+
+    {
+        DCFWriter writer;
+        if (!writer.setDCFFile(ours))
+            abort();
+        writer.setParameterValue(index, subIndex, value, denotation);
+        if (flags & 4)
+            writer.setDenotation(quint16(index ^ 1), subIndex, QStringLiteral("second"));
+        writer.writeFile();
+    }
+
+    QSettings reference(theirs, QSettings::IniFormat);
+    reference.setIniCodec("UTF-8");
+    const QStringList keys = reference.allKeys();
+    for (const QString &key : keys) {
+        if (key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
+            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive))
+            reference.remove(key);
+    }
+    QString target = section(reference, index, subIndex);
+    if (!target.isEmpty()) {
+        if (!value.isEmpty())
+            reference.setValue(target + QLatin1String("/ParameterValue"), value);
+        if (!denotation.isEmpty())
+            reference.setValue(target + QLatin1String("/Denotation"), denotation);
+    }
+    if (flags & 4) {
+        target = section(reference, quint16(index ^ 1), subIndex);
+        if (!target.isEmpty())
+            reference.setValue(target + QLatin1String("/Denotation"), QStringLiteral("second"));
+    }
+
+    QSettings written(ours, QSettings::IniFormat);
+    written.setIniCodec("UTF-8");
+    const QStringList expected = reference.allKeys();
+    const QStringList got = written.allKeys();
+    if (expected != got)
+        fail("keys differ", QString::number(got.size()), got, expected);
+    for (const QString &key : expected) {
+        if (written.value(key) != reference.value(key))
+            fail("values differ", key, written.value(key), reference.value(key));
+    }
+    reference.sync();  // nothing left to write when it goes
+    QFile::remove(ours);
+    QFile::remove(theirs);
+    return 0;
+}
