@@ -45,7 +45,7 @@ QAction *GenericViewSearch::getMenuAction(GenericViewSearch::ActionType type)
         break;
     case SearchAll:
         action = new QAction(tr("Search all"), this);
-        action->setShortcut(QKeySequence(Qt::Key_F4));
+        action->setShortcut(QKeySequence(tr("F4")));
         connect(action, &QAction::triggered, this, &GenericViewSearch::onSearchAll);
         break;
     }
