@@ -295,7 +295,7 @@ void tst_GenericViewSearch::hitsForgottenWithTheirModel()
     QCOMPARE(f.view->selectionModel()->selectedRows().size(), 3);
     if (deleteOld)
         delete old;
-    f.addRows({ "y", "y", "x2", "x5" });
+    f.addRows({ "y", "x2", "y", "x5" });  // old hits sat in rows 0, 2 and 3
     f.view->setModel(&f.model);
 
     f.search->onSearchNext();
