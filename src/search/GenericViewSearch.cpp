@@ -45,7 +45,7 @@ QAction *GenericViewSearch::getMenuAction(GenericViewSearch::ActionType type)
         break;
     case SearchAll:
         action = new QAction(tr("Search all"), this);
-        action->setShortcut(QKeySequence(Qt::Key_F4));
+        action->setShortcut(QKeySequence(tr("F4")));
         connect(action, &QAction::triggered, this, &GenericViewSearch::onSearchAll);
         break;
     }
@@ -64,6 +64,7 @@ void GenericViewSearch::searchSingleOccurrence(QString text)
 {
     if (m_searching)
         return;
+    forgetHitsOfOtherModel();
     if (text.isEmpty() && m_lastSearchText.isEmpty()) {
         searchResult(NotFound);
         return;
@@ -93,6 +94,7 @@ void GenericViewSearch::searchAllOccurrence(QString text)
 {
     if (m_searching)
         return;
+    forgetHitsOfOtherModel();
     if (text.isEmpty()) {
         searchResult(NotFound);
         return;
@@ -220,6 +222,7 @@ void GenericViewSearch::watchModel(QAbstractItemModel *model)
     m_watchedModel = model;
     if (!model)
         return;
+    connect(model, &QObject::destroyed, this, &GenericViewSearch::forgetHits);
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &GenericViewSearch::forgetHits);
     connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, &GenericViewSearch::forgetHits);
     // Rows appended at the end, as a live trace does, leave every kept index valid.
@@ -236,6 +239,14 @@ void GenericViewSearch::forgetHits()
 {
     m_foundIndices.clear();
     m_lastSearchText.clear();
+}
+
+// The view may have been given another model since the hits were gathered.
+void GenericViewSearch::forgetHitsOfOtherModel()
+{
+    const QAbstractItemModel *shown = m_view ? m_view->model() : nullptr;
+    if (shown != m_watchedModel)
+        forgetHits();
 }
 
 void GenericViewSearch::handleFoundIndex()

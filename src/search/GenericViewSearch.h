@@ -67,6 +67,7 @@ public slots:
 private:
     void watchModel(QAbstractItemModel *model);
     void forgetHits();
+    void forgetHitsOfOtherModel();
 
     QPointer<QLineEdit> m_lineEdit;
     QPointer<QPushButton> m_findButton;

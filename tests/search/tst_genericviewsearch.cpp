@@ -88,6 +88,8 @@ private slots:
     void nextAfterAll();
     void hitsForgottenWhenRowsChange_data();
     void hitsForgottenWhenRowsChange();
+    void hitsForgottenWithTheirModel_data();
+    void hitsForgottenWithTheirModel();
     void children_data();
     void children();
     void colourIsReset();
@@ -271,6 +273,34 @@ void tst_GenericViewSearch::hitsForgottenWhenRowsChange()
     f.search->onSearchNext();
 
     QCOMPARE(f.selectedTexts(), QStringList{ expected });
+}
+
+void tst_GenericViewSearch::hitsForgottenWithTheirModel_data()
+{
+    QTest::addColumn<bool>("deleteOld");
+    QTest::newRow("model replaced: scans the new one") << false;
+    QTest::newRow("model deleted, then replaced") << true;
+}
+
+void tst_GenericViewSearch::hitsForgottenWithTheirModel()
+{
+    QFETCH(bool, deleteOld);
+    Fixture f(false);
+    auto old = new QStandardItemModel(f.view.get());
+    for (const QString &text : { "x1", "y", "x3", "x4" })
+        old->appendRow(item(text));
+    f.view->setModel(old);
+    f.edit.setText("x");
+    f.search->onSearchAll();
+    QCOMPARE(f.view->selectionModel()->selectedRows().size(), 3);
+    if (deleteOld)
+        delete old;
+    f.addRows({ "y", "x2", "y", "x5" });  // old hits sat in rows 0, 2 and 3
+    f.view->setModel(&f.model);
+
+    f.search->onSearchNext();
+
+    QCOMPARE(f.selectedTexts(), QStringList{ "x2" });
 }
 
 void tst_GenericViewSearch::children_data()
