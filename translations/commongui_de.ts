@@ -196,6 +196,10 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
         <source>Searching data...  %p%</source>
         <translation>Daten werden gesucht...  %p%</translation>
     </message>
+    <message>
+        <source>F4</source>
+        <translation>F4</translation>
+    </message>
 </context>
 <context>
     <name>HelpViewer</name>
