@@ -817,7 +817,7 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
 {
     bool any = false;
     QString path;
-    QStringList odd;
+    QStringList listed;
     for (size_t b = 0; b < m_blocks.size(); ++b) {
         const Block &block = m_blocks[b];
         if (block.removed || block.liveKeys == 0)
@@ -835,17 +835,13 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
                 path += keyOf(line);
             if (!accept(path))
                 return;
-            // Removing a path removes what lies under it too; for a path the reader
-            // would normalise, that is another path: removed by path afterwards.
-            if (normalizedPath(path) != path) {
-                odd << path;
-                return;
-            }
-            removeLine(id);
-            any = true;
+            // Removing a path removes what lies under it too, and a path the reader
+            // would normalise is another path: every one is removed by path, after
+            // the listing, as the reader removes each key it listed.
+            listed << path;
         });
     }
-    for (const QString &p : qAsConst(odd))
+    for (const QString &p : qAsConst(listed))
         any = remove(p) || any;
     return any;
 }

@@ -651,6 +651,10 @@ void tst_DCFWriter::oddLayouts_data()
         << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\n")
         << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "1a00sub1/ParameterValue" << "7";
+    QTest::newRow("a dropped key takes the keys under its path along")
+        << QByteArray("[1a00sub1]\nA=1\nParameterValue=5\nParameterValue\\\\\\eralX=al\nB\\\\C=2\n")
+        << QByteArray("[1a00sub1]\nA=1\nB\\\\C=2\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("byte order mark kept off a key that moves up to it")
         << QByteArray("\xEF\xBB\xBF" "ParameterValue=1\nX=1\n")
         << QByteArray("\xEF\xBB\xBF\nX=1\n\n[FileInfo]\nX=3\n")
