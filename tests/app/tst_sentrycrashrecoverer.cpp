@@ -22,10 +22,8 @@ private slots:
     void pendingCrashes_data();
     void pendingCrashes();
     void uploadsEachDumpOnce();
-    void failedUploadStillDeletes_data();
-    void failedUploadStillDeletes();
-    void emptyUrlKeepsDumps();
-    void unreadableDumpStays();
+    void uploadOutcomes_data();
+    void uploadOutcomes();
     void emptyDirectoryNameIsNoDirectory();
 
 private:
@@ -143,60 +141,48 @@ void tst_SentryCrashRecoverer::uploadsEachDumpOnce()
     QCOMPARE(QByteArray::fromBase64(byName.last().value("body").toString().toLatin1()), QByteArray("second"));
 }
 
-void tst_SentryCrashRecoverer::failedUploadStillDeletes_data()
+void tst_SentryCrashRecoverer::uploadOutcomes_data()
 {
-    QTest::addColumn<bool>("unreachable");
-    QTest::newRow("server answers 500") << false;
-    QTest::newRow("nobody listens") << true;
+    QTest::addColumn<QString>("server");  // "200", "500", "closed", or "none" for an empty url
+    QTest::addColumn<Files>("files");
+    QTest::addColumn<QStringList>("remaining");
+    QTest::addColumn<int>("uploads");
+    const Files two { { "a.dmp", "one" }, { "b/c.dmp", "two" } };
+    QTest::newRow("server answers 500, still deleted") << "500" << two << QStringList() << 2;
+    QTest::newRow("nobody listens, still deleted") << "closed" << two << QStringList() << 0;
+    QTest::newRow("empty url keeps dumps") << "none" << Files { { "a.dmp", "one" }, { "keep.txt", "x" } }
+                                           << QStringList({ "a.dmp", "keep.txt" }) << 0;
+    QTest::newRow("unreadable dump stays") << "200" << Files { { "locked.dmp", "one" }, { "open.dmp", "two" } }
+                                           << QStringList({ "locked.dmp" }) << 1;
 }
 
-void tst_SentryCrashRecoverer::failedUploadStillDeletes()
+void tst_SentryCrashRecoverer::uploadOutcomes()
 {
-    QFETCH(bool, unreachable);
+    QFETCH(QString, server);
+    QFETCH(Files, files);
+    QFETCH(QStringList, remaining);
+    QFETCH(int, uploads);
     QTemporaryDir dumps;
-    createFiles(dumps.path(), { { "a.dmp", "one" }, { "b/c.dmp", "two" } });
-    m_server.writeFile("upload.status", "500");
-    const QString url = unreachable ? QStringLiteral("http://127.0.0.1:%1/api/1/minidump/").arg(closedPort())
-                                    : uploadUrl();
+    createFiles(dumps.path(), files);
+    if (files.contains("locked.dmp")) {
+        if (geteuid() == 0)
+            QSKIP("root can read any file");
+        QFile(dumps.filePath("locked.dmp")).setPermissions(QFileDevice::WriteOwner);
+    }
+    if (server == "500")
+        m_server.writeFile("upload.status", "500");
+    const QString url = server == "none" ? QString()
+            : server == "closed" ? QStringLiteral("http://127.0.0.1:%1/api/1/minidump/").arg(closedPort())
+                                 : uploadUrl();
     const int before = uploadCount();
-
-    SentryCrashRecoverer(url, dumps.path()).uploadPendingCrashes();
-    m_server.removeFile("upload.status");
-
-    QCOMPARE(filesIn(dumps.path()), QStringList());
-    QCOMPARE(uploadCount() - before, unreachable ? 0 : 2);
-}
-
-void tst_SentryCrashRecoverer::emptyUrlKeepsDumps()
-{
-    QTemporaryDir dumps;
-    createFiles(dumps.path(), { { "a.dmp", "one" }, { "keep.txt", "x" } });
-    SentryCrashRecoverer recoverer(QString(), dumps.path());
-    const int before = uploadCount();
+    SentryCrashRecoverer recoverer(url, dumps.path());
 
     recoverer.uploadPendingCrashes();
-    QCOMPARE(filesIn(dumps.path()), QStringList({ "a.dmp", "keep.txt" }));
-    QVERIFY(recoverer.hasPendingCrashes());
+    m_server.removeFile("upload.status");
 
-    recoverer.discardPendingCrashes();
-    QCOMPARE(filesIn(dumps.path()), QStringList({ "keep.txt" }));
-    QVERIFY(!recoverer.hasPendingCrashes());
-    QCOMPARE(uploadCount(), before);
-}
-
-void tst_SentryCrashRecoverer::unreadableDumpStays()
-{
-    if (geteuid() == 0)
-        QSKIP("root can read any file");
-    QTemporaryDir dumps;
-    createFiles(dumps.path(), { { "locked.dmp", "one" }, { "open.dmp", "two" } });
-    QFile(dumps.filePath("locked.dmp")).setPermissions(QFileDevice::WriteOwner);
-    const int before = uploadCount();
-
-    SentryCrashRecoverer(uploadUrl(), dumps.path()).uploadPendingCrashes();
-
-    QCOMPARE(filesIn(dumps.path()), QStringList({ "locked.dmp" }));
-    QCOMPARE(uploadCount() - before, 1);
+    QCOMPARE(filesIn(dumps.path()), remaining);
+    QCOMPARE(uploadCount() - before, uploads);
+    QCOMPARE(recoverer.hasPendingCrashes(), remaining.contains("a.dmp") || remaining.contains("locked.dmp"));
 }
 
 void tst_SentryCrashRecoverer::emptyDirectoryNameIsNoDirectory()

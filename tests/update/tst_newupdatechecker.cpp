@@ -35,6 +35,15 @@ QByteArray mapPayload(const StringMap &map)
     return stream([&](QDataStream &out) { out << map; });
 }
 
+// Sets id and version by a check whose own request goes nowhere.
+bool primed(newUpdateChecker &checker, const QString &current)
+{
+    qputenv("COMMONGUI_UPDATE_SERVER", QStringLiteral("http://127.0.0.1:%1").arg(closedPort()).toUtf8());
+    QSignalSpy errors(&checker, &newUpdateChecker::networkReplyError);
+    checker.checkForUpdates("1350", current, 0, false);
+    return errors.wait(30000);
+}
+
 int postCount(const UpdateTestServer &server)
 {
     int count = 0;
@@ -278,12 +287,8 @@ void tst_newUpdateChecker::parsesReply()
     QFETCH(QString, current);
     QFETCH(QByteArray, reply);
     QFETCH(QString, version);
-    // The check sets id and version; its own request goes nowhere.
-    qputenv("COMMONGUI_UPDATE_SERVER", QStringLiteral("http://127.0.0.1:%1").arg(closedPort()).toUtf8());
     newUpdateChecker checker;
-    QSignalSpy errors(&checker, &newUpdateChecker::networkReplyError);
-    checker.checkForUpdates("1350", current, 0, false);
-    QVERIFY(errors.wait(30000));
+    QVERIFY(primed(checker, current));
     QSignalSpy spy(&checker, &newUpdateChecker::versionAvailable);
 
     checker.readData(reply);
@@ -314,10 +319,8 @@ void tst_newUpdateChecker::failures()
 {
     QFETCH(QByteArray, reply);
     QFETCH(int, error);
-    QString base = m_server.url();
-    if (reply.isEmpty())
-        base = QStringLiteral("http://127.0.0.1:%1").arg(closedPort());
-    else
+    const QString base = reply.isEmpty() ? QStringLiteral("http://127.0.0.1:%1").arg(closedPort()) : m_server.url();
+    if (!reply.isEmpty())
         m_server.writeFile("1350.reply.json", reply);
     qputenv("COMMONGUI_UPDATE_SERVER", base.toUtf8());
     BoxRecorder recorder;
@@ -338,13 +341,10 @@ void tst_newUpdateChecker::failures()
 
 void tst_newUpdateChecker::readsTcpMessages()
 {
-    qputenv("COMMONGUI_UPDATE_SERVER", QStringLiteral("http://127.0.0.1:%1").arg(closedPort()).toUtf8());
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
     newUpdateChecker checker;
-    QSignalSpy errors(&checker, &newUpdateChecker::networkReplyError);
-    checker.checkForUpdates("1350", "2.4.0", 0, false);
-    QVERIFY(errors.wait(30000));
+    QVERIFY(primed(checker, "2.4.0"));
     QSignalSpy spy(&checker, &newUpdateChecker::versionAvailable);
 
     checker.setServer("127.0.0.1", server.serverPort());
