@@ -20,19 +20,21 @@ static const QString Blue = QStringLiteral("QPushButton {background-color: blue}
 // Display texts differ from the searched texts, so a hit proves the role was read.
 static QStandardItem *item(const QString &text)
 {
-    auto it = new QStandardItem(QStringLiteral("shown ") + text.toUpper());
+    auto it = new QStandardItem("shown " + text.toUpper());
     it->setData(text, SearchRole);
     return it;
+}
+
+static void run(GenericViewSearch &search, bool all)
+{
+    all ? search.onSearchAll() : search.onSearchNext();
 }
 
 struct Fixture
 {
     explicit Fixture(bool tree)
     {
-        if (tree)
-            view.reset(new QTreeView);
-        else
-            view.reset(new QTableView);
+        view.reset(tree ? static_cast<QAbstractItemView *>(new QTreeView) : new QTableView);
         view->setModel(&model);
         view->setSelectionBehavior(QAbstractItemView::SelectRows);
         view->resize(300, 200);
@@ -52,7 +54,7 @@ struct Fixture
                                                                    | QItemSelectionModel::Rows);
     }
 
-    // Search texts of the selected rows, children written as "parent/child".
+    // Children written as "parent/child".
     QStringList selectedTexts() const
     {
         QStringList texts;
@@ -78,8 +80,6 @@ class tst_GenericViewSearch : public QObject
     Q_OBJECT
 
 private slots:
-    void menuActions_data();
-    void menuActions();
     void searchNext_data();
     void searchNext();
     void searchAll_data();
@@ -104,34 +104,6 @@ private slots:
 };
 
 static const QStringList rows = { "alpha", "Beta", "gamma", "beta two", "delta" };
-
-void tst_GenericViewSearch::menuActions_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QKeySequence>("shortcut");
-    QTest::addColumn<bool>("checkable");
-    QTest::newRow("next") << 0 << "Search next" << QKeySequence(QKeySequence::FindNext) << false;
-    QTest::newRow("sub elements") << 1 << "Search sub elements" << QKeySequence() << true;
-    QTest::newRow("all") << 2 << "Search all" << QKeySequence(Qt::Key_F4) << false;
-}
-
-void tst_GenericViewSearch::menuActions()
-{
-    QFETCH(int, type);
-    QFETCH(QString, text);
-    QFETCH(QKeySequence, shortcut);
-    QFETCH(bool, checkable);
-    Fixture f(false);
-    QAction *action = f.search->getMenuAction(GenericViewSearch::ActionType(type));
-    QVERIFY(action);
-    QCOMPARE(action->parent(), f.search.get());
-    QCOMPARE(action->text(), text);
-    QCOMPARE(action->shortcut(), shortcut);
-    QCOMPARE(action->isCheckable(), checkable);
-    QVERIFY(!action->isChecked());
-    QVERIFY(!f.search->getMenuAction(GenericViewSearch::ActionType(3)));
-}
 
 void tst_GenericViewSearch::searchNext_data()
 {
@@ -199,10 +171,8 @@ void tst_GenericViewSearch::searchAll()
     Fixture f(tree);
     f.addRows(rows);
     f.select(2);
-    QAction *all = f.search->getMenuAction(GenericViewSearch::SearchAll);
-
     f.edit.setText(text);
-    all->trigger();
+    f.search->getMenuAction(GenericViewSearch::SearchAll)->trigger();
 
     QCOMPARE(f.selectedTexts(), expected);
     QCOMPARE(f.button.styleSheet(), QString());  // no colour feedback, even without hits
@@ -287,7 +257,7 @@ void tst_GenericViewSearch::hitsForgottenWithTheirModel()
     QFETCH(bool, deleteOld);
     Fixture f(false);
     auto old = new QStandardItemModel(f.view.get());
-    for (const QString &text : { "x1", "y", "x3", "x4" })
+    for (const char *text : { "x1", "y", "x3", "x4" })
         old->appendRow(item(text));
     f.view->setModel(old);
     f.edit.setText("x");
@@ -339,16 +309,11 @@ void tst_GenericViewSearch::children()
         QVERIFY(child.isValid());
         f.view->selectionModel()->select(child, QItemSelectionModel::ClearAndSelect);
     }
-    QAction *sub = f.search->getMenuAction(GenericViewSearch::SearchSubElements);
     if (withChildren)
-        sub->trigger();
+        f.search->getMenuAction(GenericViewSearch::SearchSubElements)->trigger();
 
     f.edit.setText(text);
-    if (all)
-        f.search->onSearchAll();
-    else
-        f.search->onSearchNext();
-
+    run(*f.search, all);
     QCOMPARE(f.selectedTexts(), expected);
 }
 
@@ -380,25 +345,16 @@ void tst_GenericViewSearch::emptyText()
     f.addRows(rows);
     f.select(1);
     QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
-    if (all)
-        f.search->onSearchAll();
-    else
-        f.search->onSearchNext();
+    run(*f.search, all);
     QCOMPARE(f.button.styleSheet(), Red);
     QCOMPARE(f.selectedTexts(), QStringList());
     QCOMPARE(stop.count(), 0);  // reported at once, no scan
 }
 
-class ShowCounter : public QObject
+struct ShowCounter : QObject
 {
-public:
     int shows = 0;
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        if (event->type() == QEvent::Show)
-            ++shows;
-        return false;
-    }
+    bool eventFilter(QObject *, QEvent *event) override { shows += event->type() == QEvent::Show; return false; }
 };
 
 void tst_GenericViewSearch::shortSearchShowsNoProgress()
@@ -465,9 +421,7 @@ void tst_GenericViewSearch::slowSearchShowsProgress()
 
 void tst_GenericViewSearch::reentryIgnored_data()
 {
-    QTest::addColumn<bool>("all");
-    QTest::newRow("search next during a scan") << false;
-    QTest::newRow("search all during a scan") << true;
+    emptyText_data();
 }
 
 void tst_GenericViewSearch::reentryIgnored()
@@ -480,10 +434,7 @@ void tst_GenericViewSearch::reentryIgnored()
     // Runs inside the scan's own event processing.
     QTimer::singleShot(0, f.search.get(), [&] {
         f.edit.setText("delta");
-        if (all)
-            f.search->onSearchAll();
-        else
-            f.search->onSearchNext();
+        run(*f.search, all);
     });
 
     f.search->searchAllOccurrence("beta");

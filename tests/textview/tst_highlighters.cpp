@@ -57,15 +57,13 @@ static QString codes(const QTextDocument &document)
 
 static std::unique_ptr<QSyntaxHighlighter> create(const QString &kind, QTextDocument *document)
 {
-    if (kind == "c")
-        return std::make_unique<AnsiCHighlighter>(document);
-    if (kind == "eds")
-        return std::make_unique<EdsHighlighter>(document);
-    if (kind == "dbc")
-        return std::make_unique<DBCHighlighter>(document);
-    if (kind == "plc")
-        return std::make_unique<PlcHighlighter>(document);
-    return std::make_unique<XMLHighlighter>(document);
+    QSyntaxHighlighter *h = kind == "c" ? static_cast<QSyntaxHighlighter *>(new AnsiCHighlighter(document))
+        : kind == "eds" ? static_cast<QSyntaxHighlighter *>(new EdsHighlighter(document))
+        : kind == "dbc" ? static_cast<QSyntaxHighlighter *>(new DBCHighlighter(document))
+        : kind == "plc" ? static_cast<QSyntaxHighlighter *>(new PlcHighlighter(document))
+                        : static_cast<QSyntaxHighlighter *>(new XMLHighlighter(document));
+    h->rehighlight();
+    return std::unique_ptr<QSyntaxHighlighter>(h);
 }
 
 class tst_Highlighters : public QObject
@@ -147,8 +145,6 @@ void tst_Highlighters::colours()
     QTextDocument document;
     document.setPlainText(text);
     auto highlighter = create(kind, &document);
-    highlighter->rehighlight();
-
     QCOMPARE(codes(document), expected);
 }
 
@@ -170,7 +166,6 @@ void tst_Highlighters::blockState()
     QTextDocument document;
     document.setPlainText("int a; /* x\ny */\n");
     auto highlighter = create(kind, &document);
-    highlighter->rehighlight();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
         QCOMPARE(block.userState(), state);
 }
