@@ -39,6 +39,7 @@ private slots:
 
 private:
     bool write(const QString &name, const QByteArray &content);
+    QStringList opened(const std::function<void()> &action);
 
     QTemporaryDir m_dir;
     QString m_collection;
@@ -49,6 +50,15 @@ bool tst_HelpViewer::write(const QString &name, const QByteArray &content)
 {
     QFile file(m_dir.filePath(name));
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+QStringList tst_HelpViewer::opened(const std::function<void()> &action)
+{
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
+    m_opened.clear();
+    action();
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    return m_opened;
 }
 
 void tst_HelpViewer::initTestCase()
@@ -209,10 +219,9 @@ void tst_HelpViewer::browserLoadsFromCollection()
 
 void tst_HelpViewer::missingCollection()
 {
-    QTemporaryDir dir;
     HelpViewer viewer;
     // A collection in a folder that does not exist cannot be created.
-    QVERIFY(!viewer.setHelpFile(dir.filePath(QStringLiteral("missing/none.qhc"))));
+    QVERIFY(!viewer.setHelpFile(m_dir.filePath(QStringLiteral("missing/none.qhc"))));
 }
 
 void tst_HelpViewer::dialogTopics_data()
@@ -232,15 +241,12 @@ void tst_HelpViewer::dialogTopics()
 
     HelpViewerDialog dialog;
     QVERIFY(dialog.setFile(m_dir.filePath(QStringLiteral("intro.html"))));
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
-    m_opened.clear();
 
-    dialog.setTopic(topic);
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    const QStringList urls = opened([&] { dialog.setTopic(topic); });
 
     const QStringList pdf { QStringLiteral("file:///") + QCoreApplication::applicationDirPath()
                             + QStringLiteral("/doc/manual_tarvet_de.pdf") };
-    QCOMPARE(m_opened, opensPdf ? pdf : QStringList());
+    QCOMPARE(urls, opensPdf ? pdf : QStringList());
     QCOMPARE(dialog.isVisible(), !opensPdf);
     QCOMPARE(dialog.windowTitle(), QStringLiteral("Brisca - Help"));
 }
@@ -276,13 +282,12 @@ void tst_HelpViewer::dialogShowsManual()
 {
     HelpViewerDialog dialog;
     dialog.setManualFile(QStringLiteral("/opt/tool/doc/handbook_tarvet_en.pdf"));
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
-    m_opened.clear();
+    bool shown = false;
 
-    QVERIFY(dialog.showManual());
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    const QStringList urls = opened([&] { shown = dialog.showManual(); });
 
-    QCOMPARE(m_opened, QStringList { "file:////opt/tool/doc/handbook_tarvet_en.pdf" });
+    QVERIFY(shown);
+    QCOMPARE(urls, QStringList { "file:////opt/tool/doc/handbook_tarvet_en.pdf" });
 }
 
 QTEST_MAIN(tst_HelpViewer)
