@@ -16,7 +16,6 @@ private slots:
     void addIndexAndDenotation();
     void setParameterValue_data();
     void setParameterValue();
-    void loadDropsValues();
     void deleteSpellings_data();
     void deleteSpellings();
     void exists_data();
@@ -169,27 +168,22 @@ void tst_DCFWriter::setParameterValue_data()
     QTest::addColumn<int>("subIndex");
     QTest::addColumn<QString>("section");  // empty: nothing written
 
-    QTest::newRow("upper index, lower sub")
-        << QByteArray("[1A00sub1]\nParameterName=a\n") << 0x1A00 << 1 << "1A00sub1";
+    QTest::newRow("upper index, lower sub") << QByteArray("[1A00sub1]\nParameterName=a\n") << 0x1A00 << 1 << "1A00sub1";
     QTest::newRow("odd spelling found ignoring case")
         << QByteArray("[1a00SUB1]\nParameterName=a\n") << 0x1A00 << 1 << "1a00SUB1";
-    QTest::newRow("upper sub-index")
-        << QByteArray("[1A00sub1A]\nParameterName=a\n") << 0x1A00 << 0x1A << "1A00sub1A";
+    QTest::newRow("upper sub-index") << QByteArray("[1A00sub1A]\nParameterName=a\n") << 0x1A00 << 0x1A << "1A00sub1A";
     QTest::newRow("var object: value in the index section")
         << QByteArray("[1000]\nParameterName=a\n") << 0x1000 << 0 << "1000";
-    QTest::newRow("var object spelled upper")
-        << QByteArray("[100A]\nParameterName=a\n") << 0x100A << 0 << "100A";
+    QTest::newRow("var object spelled upper") << QByteArray("[100A]\nParameterName=a\n") << 0x100A << 0 << "100A";
     QTest::newRow("sub section preferred to the var section")
         << QByteArray("[1000]\nParameterName=a\n[1000sub0]\nParameterName=b\n") << 0x1000 << 0 << "1000sub0";
-    QTest::newRow("var object has no sub 1")
-        << QByteArray("[1000]\nParameterName=a\n") << 0x1000 << 1 << "";
+    QTest::newRow("var object has no sub 1") << QByteArray("[1000]\nParameterName=a\n") << 0x1000 << 1 << "";
     // Both spellings present: the first of the sorted list wins, upper case sorts first.
     QTest::newRow("two spellings: sorted first wins")
         << QByteArray("[1a00sub1]\nParameterName=a\n[1A00SUB1]\nParameterName=b\n") << 0x1A00 << 1 << "1A00SUB1";
     QTest::newRow("section without keys does not count")
         << QByteArray("[1a00sub1]\n[1a00]\nParameterName=a\n") << 0x1A00 << 1 << "";
-    QTest::newRow("absent object")
-        << QByteArray("[1a00sub1]\nParameterName=a\n") << 0x1A01 << 1 << "";
+    QTest::newRow("absent object") << QByteArray("[1a00sub1]\nParameterName=a\n") << 0x1A01 << 1 << "";
 }
 
 void tst_DCFWriter::setParameterValue()
@@ -218,26 +212,6 @@ void tst_DCFWriter::setParameterValue()
     QCOMPARE(written, (QStringList{ section + "/Denotation", section + "/ParameterValue" }));
     QCOMPARE(valueOf(file, section + "/ParameterValue"), QStringLiteral("0x55"));
     QCOMPARE(valueOf(file, section + "/Denotation"), QStringLiteral("Speed"));
-}
-
-void tst_DCFWriter::loadDropsValues()
-{
-    const QString file = writeSheet("[1000]\nParameterName=Device type\nParameterValue=0x191\n"
-                                    "[1a00sub1]\nparametervalue=1\nDENOTATION=x\nDefaultValue=7\n"
-                                    "[2000]\nParameterValue=1\nDenotation=only values\n"
-                                    "[DeviceInfo]\nMyDenotationText=gone too\nVendorName=Acme\n");
-    {
-        DCFWriter writer;
-        QVERIFY(writer.setDCFFile(file));
-        // The emptied section is no longer an object of the file.
-        QVERIFY(!writer.existIndex(0x2000));
-        writer.writeFile();
-    }
-    QCOMPARE(keysOf(file), (QStringList{ "1000/ParameterName", "1a00sub1/DefaultValue",
-                                         "DeviceInfo/VendorName" }));
-    const QByteArray text = readAll(file).toLower();
-    QVERIFY(!text.contains("parametervalue"));
-    QVERIFY(!text.contains("denotation"));
 }
 
 void tst_DCFWriter::deleteSpellings_data()
@@ -277,6 +251,8 @@ void tst_DCFWriter::exists_data()
     QTest::newRow("sub only") << QByteArray("[1a00Sub1]\nA=1\n") << false << true;
     QTest::newRow("other sub only") << QByteArray("[1a00sub10]\nA=1\n") << false << false;
     QTest::newRow("empty sections") << QByteArray("[1a00]\n[1a00sub1]\n") << false << false;
+    QTest::newRow("sections of values only: emptied on load")
+        << QByteArray("[1a00]\nDenotation=x\n[1a00sub1]\nParameterValue=1\n") << false << false;
 }
 
 void tst_DCFWriter::exists()
@@ -413,6 +389,10 @@ void tst_DCFWriter::untouchedRoundTrip_data()
         << QByteArray("[2000]\nDenotation=first\\\n second\nA=1\n") << QByteArray("[2000]\nA=1\n");
     QTest::newRow("key holding zero bytes")
         << QByteArray("[1a00sub1]\nDenotation\0\0=x\nA=1\n", 30) << QByteArray("[1a00sub1]\nA=1\n");
+    QTest::newRow("any case, and keys merely containing denotation, go")
+        << QByteArray("[1000]\nParameterName=Device type\nParameterValue=0x191\n[1a00sub1]\nparametervalue=1\nDENOTATION=x\n"
+                      "DefaultValue=7\n[2000]\nParameterValue=1\n[DeviceInfo]\nMyDenotationText=gone too\nVendorName=Acme\n")
+        << QByteArray("[1000]\nParameterName=Device type\n[1a00sub1]\nDefaultValue=7\n[2000]\n[DeviceInfo]\nVendorName=Acme\n");
     QTest::newRow("nothing to drop")
         << QByteArray("[2000]\n\tA = 1 \n\n\n;end") << QByteArray("[2000]\n\tA = 1 \n\n\n;end");
 }
@@ -488,29 +468,16 @@ void tst_DCFWriter::valueEscaping()
 // The file as loading leaves it: lines of values and denotations gone, nothing else.
 static QByteArray withoutValues(const QByteArray &text)
 {
-    QByteArray out;
-    QByteArray section;
-    int start = 0;
-    while (start < text.size()) {
-        int end = start;
-        while (end < text.size() && text.at(end) != '\n' && text.at(end) != '\r')
-            ++end;
-        if (end < text.size() && text.at(end) == '\r' && end + 1 < text.size() && text.at(end + 1) == '\n')
-            ++end;
-        if (end < text.size())
-            ++end;
-        const QByteArray line = text.mid(start, end - start);
-        const QByteArray trimmed = line.trimmed();
-        bool drop = false;
-        if (trimmed.startsWith('[')) {
+    QByteArray out, section;
+    static const QRegularExpression lines(QStringLiteral("[^\r\n]*(\r\n|\r|\n|$)"));
+    for (auto it = lines.globalMatch(QString::fromLatin1(text)); it.hasNext();) {
+        const QByteArray line = it.next().captured(0).toLatin1(), trimmed = line.trimmed();
+        if (trimmed.startsWith('['))
             section = trimmed.toLower();
-        } else if (!trimmed.startsWith(';') && trimmed.indexOf('=') > 0) {
-            const QByteArray path = section + '/' + trimmed.left(trimmed.indexOf('=')).toLower();
-            drop = path.contains("parametervalue") || path.contains("denotation");
-        }
-        if (!drop)
+        const QByteArray path = section + '/' + trimmed.left(qMax(0, trimmed.indexOf('='))).toLower();
+        if (trimmed.startsWith('[') || trimmed.startsWith(';') || trimmed.indexOf('=') <= 0
+            || !(path.contains("parametervalue") || path.contains("denotation")))
             out += line;
-        start = end;
     }
     return out;
 }
