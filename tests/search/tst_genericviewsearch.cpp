@@ -82,19 +82,13 @@ class tst_GenericViewSearch : public QObject
 private slots:
     void searchNext_data();
     void searchNext();
-    void searchAll_data();
-    void searchAll();
     void nextAfterAll_data();
     void nextAfterAll();
     void hitsForgottenWhenRowsChange_data();
     void hitsForgottenWhenRowsChange();
-    void hitsForgottenWithTheirModel_data();
-    void hitsForgottenWithTheirModel();
     void children_data();
     void children();
     void colourIsReset();
-    void emptyText_data();
-    void emptyText();
     void shortSearchShowsNoProgress();
     void slowSearchShowsProgress();
     void reentryIgnored_data();
@@ -108,31 +102,41 @@ static const QStringList rows = { "alpha", "Beta", "gamma", "beta two", "delta" 
 void tst_GenericViewSearch::searchNext_data()
 {
     QTest::addColumn<bool>("tree");
+    QTest::addColumn<bool>("all");
     QTest::addColumn<int>("selected");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("expected");
     QTest::addColumn<QString>("style");
     for (bool tree : { false, true }) {
         const QByteArray model = tree ? "tree: " : "table: ";
-        QTest::newRow(model + "first hit from nothing selected") << tree << -1 << "beta"
+        QTest::newRow(model + "first hit from nothing selected") << tree << false << -1 << "beta"
                                                                   << QStringList{ "Beta" } << "";
-        QTest::newRow(model + "skips the selected row's own text") << tree << 1 << "beta"
+        QTest::newRow(model + "skips the selected row's own text") << tree << false << 1 << "beta"
                                                                    << QStringList{ "beta two" } << "";
-        QTest::newRow(model + "wraps to the top") << tree << 3 << "beta" << QStringList{ "Beta" } << "";
-        QTest::newRow(model + "case ignored, anywhere in the text") << tree << -1 << "ETA TW"
+        QTest::newRow(model + "wraps to the top") << tree << false << 3 << "beta" << QStringList{ "Beta" } << "";
+        QTest::newRow(model + "case ignored, anywhere in the text") << tree << false << -1 << "ETA TW"
                                                                     << QStringList{ "beta two" } << "";
-        QTest::newRow(model + "no hit: red, selection cleared") << tree << 0 << "zeta" << QStringList()
+        QTest::newRow(model + "no hit: red, selection cleared") << tree << false << 0 << "zeta" << QStringList()
                                                                 << Red;
-        QTest::newRow(model + "only the selected row holds it") << tree << 2 << "gamma" << QStringList()
+        QTest::newRow(model + "only the selected row holds it") << tree << false << 2 << "gamma" << QStringList()
                                                                 << Red;
-        QTest::newRow(model + "display text not searched") << tree << -1 << "shown" << QStringList()
+        QTest::newRow(model + "display text not searched") << tree << false << -1 << "shown" << QStringList()
                                                            << Red;
+        // Search all gives no colour feedback, even without hits.
+        QTest::newRow(model + "all: two hits") << tree << true << 2 << "BETA" << QStringList{ "Beta", "beta two" } << "";
+        QTest::newRow(model + "all: every row") << tree << true << 2 << "a"
+                                                << QStringList{ "Beta", "alpha", "beta two", "delta", "gamma" } << "";
+        QTest::newRow(model + "all: no hit clears the selection") << tree << true << 2 << "zeta" << QStringList() << "";
     }
+    // Empty text: reported red at once, no scan.
+    QTest::newRow("empty text, next") << false << false << 1 << "" << QStringList() << Red;
+    QTest::newRow("empty text, all") << false << true << 1 << "" << QStringList() << Red;
 }
 
 void tst_GenericViewSearch::searchNext()
 {
     QFETCH(bool, tree);
+    QFETCH(bool, all);
     QFETCH(int, selected);
     QFETCH(QString, text);
     QFETCH(QStringList, expected);
@@ -143,39 +147,14 @@ void tst_GenericViewSearch::searchNext()
     QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
 
     f.edit.setText(text);
-    QTest::keyClick(&f.edit, Qt::Key_Return);
+    if (all)
+        f.search->getMenuAction(GenericViewSearch::SearchAll)->trigger();
+    else
+        QTest::keyClick(&f.edit, Qt::Key_Return);
 
     QCOMPARE(f.selectedTexts(), expected);
     QCOMPARE(f.button.styleSheet(), style);
-    QCOMPARE(stop.count(), 1);
-}
-
-void tst_GenericViewSearch::searchAll_data()
-{
-    QTest::addColumn<bool>("tree");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("expected");
-    for (bool tree : { false, true }) {
-        const QByteArray model = tree ? "tree: " : "table: ";
-        QTest::newRow(model + "two hits") << tree << "BETA" << QStringList{ "Beta", "beta two" };
-        QTest::newRow(model + "every row") << tree << "a" << QStringList{ "Beta", "alpha", "beta two", "delta", "gamma" };
-        QTest::newRow(model + "no hit clears the selection") << tree << "zeta" << QStringList();
-    }
-}
-
-void tst_GenericViewSearch::searchAll()
-{
-    QFETCH(bool, tree);
-    QFETCH(QString, text);
-    QFETCH(QStringList, expected);
-    Fixture f(tree);
-    f.addRows(rows);
-    f.select(2);
-    f.edit.setText(text);
-    f.search->getMenuAction(GenericViewSearch::SearchAll)->trigger();
-
-    QCOMPARE(f.selectedTexts(), expected);
-    QCOMPARE(f.button.styleSheet(), QString());  // no colour feedback, even without hits
+    QCOMPARE(stop.count(), text.isEmpty() ? 0 : 1);
 }
 
 void tst_GenericViewSearch::nextAfterAll_data()
@@ -216,6 +195,9 @@ void tst_GenericViewSearch::hitsForgottenWhenRowsChange_data()
     QTest::newRow("row inserted above: scans again") << "insert" << "x1";
     QTest::newRow("model reset: scans again") << "reset" << "x1";
     QTest::newRow("row appended: kept hits used") << "append" << "x3";
+    // Old hits sat in rows 0, 2 and 3 of the old model.
+    QTest::newRow("model replaced: scans the new one") << "replace" << "x2";
+    QTest::newRow("model deleted, then replaced") << "delete" << "x2";
 }
 
 void tst_GenericViewSearch::hitsForgottenWhenRowsChange()
@@ -223,54 +205,35 @@ void tst_GenericViewSearch::hitsForgottenWhenRowsChange()
     QFETCH(QString, change);
     QFETCH(QString, expected);
     Fixture f(false);
-    f.addRows({ "x1", "y", "x3", "x4" });
+    auto old = new QStandardItemModel(f.view.get());
+    const auto fill = [old](const QStringList &texts) { for (const QString &t : texts) old->appendRow(item(t)); };
+    fill({ "x1", "y", "x3", "x4" });
+    f.view->setModel(old);
     f.edit.setText("x");
     f.search->onSearchAll();
-    f.model.item(2)->setData("x2", SearchRole);  // seen only by a new scan
+    QCOMPARE(f.view->selectionModel()->selectedRows().size(), 3);
+    old->item(2)->setData("x2", SearchRole);  // seen only by a new scan
     f.view->selectionModel()->clearSelection();
     if (change == "remove") {
-        f.model.removeRow(1);
+        old->removeRow(1);
     } else if (change == "insert") {
-        f.model.insertRow(1, item("y0"));
+        old->insertRow(1, item("y0"));
     } else if (change == "reset") {
-        f.model.clear();
-        f.addRows({ "x1", "y", "x2", "x4" });
+        old->clear();
+        fill({ "x1", "y", "x2", "x4" });
+    } else if (change == "append") {
+        fill({ "z" });
+        old->item(2)->setData("x3", SearchRole);
     } else {
-        f.addRows({ "z" });
-        f.model.item(2)->setData("x3", SearchRole);
+        if (change == "delete")
+            delete old;
+        f.addRows({ "y", "x2", "y", "x5" });
+        f.view->setModel(&f.model);
     }
 
     f.search->onSearchNext();
 
     QCOMPARE(f.selectedTexts(), QStringList{ expected });
-}
-
-void tst_GenericViewSearch::hitsForgottenWithTheirModel_data()
-{
-    QTest::addColumn<bool>("deleteOld");
-    QTest::newRow("model replaced: scans the new one") << false;
-    QTest::newRow("model deleted, then replaced") << true;
-}
-
-void tst_GenericViewSearch::hitsForgottenWithTheirModel()
-{
-    QFETCH(bool, deleteOld);
-    Fixture f(false);
-    auto old = new QStandardItemModel(f.view.get());
-    for (const char *text : { "x1", "y", "x3", "x4" })
-        old->appendRow(item(text));
-    f.view->setModel(old);
-    f.edit.setText("x");
-    f.search->onSearchAll();
-    QCOMPARE(f.view->selectionModel()->selectedRows().size(), 3);
-    if (deleteOld)
-        delete old;
-    f.addRows({ "y", "x2", "y", "x5" });  // old hits sat in rows 0, 2 and 3
-    f.view->setModel(&f.model);
-
-    f.search->onSearchNext();
-
-    QCOMPARE(f.selectedTexts(), QStringList{ "x2" });
 }
 
 void tst_GenericViewSearch::children_data()
@@ -329,26 +292,6 @@ void tst_GenericViewSearch::colourIsReset()
     f.search->searchResult(GenericViewSearch::Wrapped);
     QCOMPARE(f.button.styleSheet(), Blue);
     QTRY_COMPARE(f.button.styleSheet(), QString());
-}
-
-void tst_GenericViewSearch::emptyText_data()
-{
-    QTest::addColumn<bool>("all");
-    QTest::newRow("search next") << false;
-    QTest::newRow("search all") << true;
-}
-
-void tst_GenericViewSearch::emptyText()
-{
-    QFETCH(bool, all);
-    Fixture f(false);
-    f.addRows(rows);
-    f.select(1);
-    QSignalSpy stop(f.search.get(), &GenericViewSearch::stopAutoscroll);
-    run(*f.search, all);
-    QCOMPARE(f.button.styleSheet(), Red);
-    QCOMPARE(f.selectedTexts(), QStringList());
-    QCOMPARE(stop.count(), 0);  // reported at once, no scan
 }
 
 struct ShowCounter : QObject
@@ -421,7 +364,9 @@ void tst_GenericViewSearch::slowSearchShowsProgress()
 
 void tst_GenericViewSearch::reentryIgnored_data()
 {
-    emptyText_data();
+    QTest::addColumn<bool>("all");
+    QTest::newRow("search next during a scan") << false;
+    QTest::newRow("search all during a scan") << true;
 }
 
 void tst_GenericViewSearch::reentryIgnored()
