@@ -108,25 +108,21 @@ void tst_GenericViewSearch::searchNext_data()
     QTest::addColumn<QStringList>("expected");
     QTest::addColumn<QString>("style");
     for (bool tree : { false, true }) {
-        const QByteArray model = tree ? "tree: " : "table: ";
-        QTest::newRow(model + "first hit from nothing selected") << tree << false << -1 << "beta"
-                                                                  << QStringList{ "Beta" } << "";
-        QTest::newRow(model + "skips the selected row's own text") << tree << false << 1 << "beta"
-                                                                   << QStringList{ "beta two" } << "";
-        QTest::newRow(model + "wraps to the top") << tree << false << 3 << "beta" << QStringList{ "Beta" } << "";
-        QTest::newRow(model + "case ignored, anywhere in the text") << tree << false << -1 << "ETA TW"
-                                                                    << QStringList{ "beta two" } << "";
-        QTest::newRow(model + "no hit: red, selection cleared") << tree << false << 0 << "zeta" << QStringList()
-                                                                << Red;
-        QTest::newRow(model + "only the selected row holds it") << tree << false << 2 << "gamma" << QStringList()
-                                                                << Red;
-        QTest::newRow(model + "display text not searched") << tree << false << -1 << "shown" << QStringList()
-                                                           << Red;
+        const auto row = [tree](const char *tag, bool all, int selected, const char *text, const QStringList &hits,
+                                const QString &style) {
+            QTest::addRow("%s: %s", tree ? "tree" : "table", tag) << tree << all << selected << QString(text) << hits << style;
+        };
+        row("first hit from nothing selected", false, -1, "beta", { "Beta" }, "");
+        row("skips the selected row's own text", false, 1, "beta", { "beta two" }, "");
+        row("wraps to the top", false, 3, "beta", { "Beta" }, "");
+        row("case ignored, anywhere in the text", false, -1, "ETA TW", { "beta two" }, "");
+        row("no hit: red, selection cleared", false, 0, "zeta", {}, Red);
+        row("only the selected row holds it", false, 2, "gamma", {}, Red);
+        row("display text not searched", false, -1, "shown", {}, Red);
         // Search all gives no colour feedback, even without hits.
-        QTest::newRow(model + "all: two hits") << tree << true << 2 << "BETA" << QStringList{ "Beta", "beta two" } << "";
-        QTest::newRow(model + "all: every row") << tree << true << 2 << "a"
-                                                << QStringList{ "Beta", "alpha", "beta two", "delta", "gamma" } << "";
-        QTest::newRow(model + "all: no hit clears the selection") << tree << true << 2 << "zeta" << QStringList() << "";
+        row("all: two hits", true, 2, "BETA", { "Beta", "beta two" }, "");
+        row("all: every row", true, 2, "a", { "Beta", "alpha", "beta two", "delta", "gamma" }, "");
+        row("all: no hit clears the selection", true, 2, "zeta", {}, "");
     }
     // Empty text: reported red at once, no scan.
     QTest::newRow("empty text, next") << false << false << 1 << "" << QStringList() << Red;
