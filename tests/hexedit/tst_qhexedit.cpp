@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QUndoStack>
 #include <QtTest>
 
@@ -15,10 +14,9 @@ namespace {
 void typeKeys(QWidget *widget, const QString &script)
 {
     static const QHash<QString, Qt::Key> names = {
-        { "Right", Qt::Key_Right }, { "Left", Qt::Key_Left }, { "Up", Qt::Key_Up },
-        { "Down", Qt::Key_Down },   { "Home", Qt::Key_Home }, { "End", Qt::Key_End },
-        { "PgUp", Qt::Key_PageUp }, { "PgDn", Qt::Key_PageDown }, { "Ins", Qt::Key_Insert },
-        { "Del", Qt::Key_Delete },  { "Bksp", Qt::Key_Backspace },
+        { "Right", Qt::Key_Right }, { "Left", Qt::Key_Left }, { "Up", Qt::Key_Up }, { "Down", Qt::Key_Down },
+        { "Home", Qt::Key_Home }, { "End", Qt::Key_End }, { "Ins", Qt::Key_Insert },
+        { "Del", Qt::Key_Delete }, { "Bksp", Qt::Key_Backspace },
     };
     for (QString token : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         Qt::KeyboardModifiers mods;
@@ -41,6 +39,14 @@ QString marks(const QHexEdit &edit)
     for (int i = 0; i < edit.size(); ++i)
         text += edit.isByteChanged(i) ? QLatin1Char('1') : QLatin1Char('0');
     return text;
+}
+
+bool shown(QHexEdit &edit, const QByteArray &data)
+{
+    edit.setData(data);
+    edit.resize(edit.sizeHint());
+    edit.show();
+    return QTest::qWaitForWindowExposed(&edit);
 }
 
 }
@@ -126,40 +132,15 @@ private slots:
         QCOMPARE(edit.undoStack()->count(), 3);
     }
 
-    void clickPlacesCursor()
+    void mouse()
     {
         QHexEdit edit;
-        edit.resize(edit.sizeHint());
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        edit.setData(QByteArray(64, 'A'));
-        edit.setCursorPosition(37);
-        const QRect cell = edit.cursorRect();
+        QVERIFY(shown(edit, QByteArray(64, 'A')));
+        const auto cell = [&edit](int i) { edit.setCursorPosition(i); return edit.cursorRect().center(); };
+        const QPoint at37 = cell(37), from = cell(3), to = cell(21);
         edit.setCursorPosition(0);
-
-        QTest::mouseClick(edit.viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+        QTest::mouseClick(edit.viewport(), Qt::LeftButton, Qt::NoModifier, at37);
         QCOMPARE(edit.cursorPosition(), 37);
-
-        QTest::mouseClick(edit.viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(edit.viewport()->width() - 2, cell.center().y()));
-        QCOMPARE(edit.cursorPosition(), 47);
-        typeKeys(&edit, QStringLiteral("z"));
-        QCOMPARE(edit.data().at(47), 'z');
-        QCOMPARE(edit.cursorPosition(), 48);
-    }
-
-    void dragSelects()
-    {
-        QHexEdit edit;
-        edit.resize(edit.sizeHint());
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        edit.setData(QByteArray(64, 'A'));
-        edit.setCursorPosition(3);
-        const QPoint from = edit.cursorRect().center();
-        edit.setCursorPosition(21);
-        const QPoint to = edit.cursorRect().center();
-        edit.setCursorPosition(0);
 
         QTest::mousePress(edit.viewport(), Qt::LeftButton, Qt::NoModifier, from);
         QMouseEvent move(QEvent::MouseMove, to, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -167,6 +148,13 @@ private slots:
         QTest::mouseRelease(edit.viewport(), Qt::LeftButton, Qt::NoModifier, to);
         QCOMPARE(edit.selectionStart(), 3);
         QCOMPARE(edit.selectionEnd(), 22);  // both end bytes are in
+
+        // A click in the character column, right of the hex column, types characters.
+        QTest::mouseClick(edit.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(edit.viewport()->width() - 2, at37.y()));
+        QCOMPARE(edit.cursorPosition(), 47);
+        typeKeys(&edit, QStringLiteral("z"));
+        QCOMPARE(edit.data().at(47), 'z');
+        QCOMPARE(edit.cursorPosition(), 48);
     }
 
     void cursorSignals()
@@ -346,10 +334,7 @@ private slots:
     void colours()
     {
         QHexEdit edit;
-        edit.resize(edit.sizeHint());
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        edit.setData(QByteArray(48, '\x20'));
+        QVERIFY(shown(edit, QByteArray(48, '\x20')));
         edit.setCursorPosition(1);
         const QRect changedCell = edit.cursorRect();
         edit.setCursorPosition(2);
@@ -373,10 +358,7 @@ private slots:
     {
         const int size = 16 * 1024 * 1024;
         QHexEdit edit;
-        edit.setData(QByteArray(size, '\x5a'));
-        edit.resize(edit.sizeHint());
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QVERIFY(shown(edit, QByteArray(size, '\x5a')));
         QCOMPARE(edit.size(), size);
         const int visible = edit.verticalScrollBar()->pageStep();
         QVERIFY(visible > 1);
