@@ -325,9 +325,8 @@ private slots:
         QVERIFY(!edit.remove(4, 1));
         QCOMPARE(edit.data(), QByteArray("cdXY"));
         QCOMPARE(edit.undoStack()->count(), 3);
-        edit.undo();
-        edit.undo();
-        edit.undo();
+        for (int i = 0; i < 3; ++i)
+            edit.undo();
         QCOMPARE(edit.data(), QByteArray("abcd"));
     }
 
@@ -335,23 +334,16 @@ private slots:
     {
         QHexEdit edit;
         QVERIFY(shown(edit, QByteArray(48, '\x20')));
-        edit.setCursorPosition(1);
-        const QRect changedCell = edit.cursorRect();
-        edit.setCursorPosition(2);
-        const QRect plainCell = edit.cursorRect();
-        edit.setCursorPosition(3);
-        const QRect selectedCell = edit.cursorRect();
-
+        // A blank byte's cell shows only its background.
+        const auto inside = [&edit](int i) { edit.setCursorPosition(i); return edit.cursorRect().topLeft() + QPoint(2, 2); };
+        const QPoint changedCell = inside(1), plainCell = inside(2), selectedCell = inside(3);
         edit.replace(1, QByteArray(1, '\x20'));
-        edit.setSelection(3, 1);
         edit.setCursorPosition(40);
         edit.setSelection(3, 1);
         const QImage image = edit.viewport()->grab().toImage();
-        // A blank byte's cell shows only its background.
-        const QPoint inside(2, 2);
-        QCOMPARE(QColor(image.pixel(changedCell.topLeft() + inside)), edit.highlightingColor());
-        QCOMPARE(QColor(image.pixel(plainCell.topLeft() + inside)), edit.palette().color(QPalette::Base));
-        QCOMPARE(QColor(image.pixel(selectedCell.topLeft() + inside)), edit.selectionColor());
+        QCOMPARE(QColor(image.pixel(changedCell)), edit.highlightingColor());
+        QCOMPARE(QColor(image.pixel(plainCell)), edit.palette().color(QPalette::Base));
+        QCOMPARE(QColor(image.pixel(selectedCell)), edit.selectionColor());
     }
 
     void bigImageScrollsInRows()
