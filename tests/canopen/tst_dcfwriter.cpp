@@ -353,7 +353,6 @@ void tst_DCFWriter::editedRoundTrip()
         writer.updateOtherSettings("FileInfo", "FileName", "node5.dcf");
         QVERIFY(writer.writeFile());
     }
-    // Only edited, added and removed lines differ.
     QCOMPARE(readAll(ours), QByteArray("; header comment\r\n[FileInfo]\r\nFileName=node5.dcf\r\n\r\n"
                                        "[1a00sub1]\r\nParameterName=Mapped object 1\r\n; keep me\r\n"
                                        "DefaultValue=0x60000108\r\nParameterValue=0x60000208\r\nDenotation=Speed\r\n\r\n"
@@ -361,7 +360,6 @@ void tst_DCFWriter::editedRoundTrip()
                                        "[OptionalObjects]\r\nSupportedObjects=1\r\n1=0x1a00\r\n\r\n"
                                        "[DeviceComissioning]\r\nBaudrate=250\r\nNodeID=5\r\nNetNumber=1\r\n"
                                        "NetworkName=Net\r\nNodeName=Z\xC3\xA4hler\r\n"));  // UTF-8, not escaped
-
 }
 
 void tst_DCFWriter::valueEscaping_data()
