@@ -13,10 +13,8 @@ private slots:
     void duplicatesKept();
     void convertWritesNothing();
     void writeConcise();
-    void nodeIdFormula_data();
-    void nodeIdFormula();
-    void malformedValue_data();
-    void malformedValue();
+    void encodeValue_data();
+    void encodeValue();
     void readerRejects_data();
     void readerRejects();
 
@@ -140,64 +138,56 @@ void tst_ConciseDcfCreator::writeConcise()
     QCOMPARE(creator.dataItems().at(3).size, quint32(2));
 }
 
-void tst_ConciseDcfCreator::nodeIdFormula_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("data");
-    QTest::newRow("node id first") << "$NODEID+0x180" << QByteArray::fromHex("85010000");
-    QTest::newRow("node id last, spaces, mixed case") << "0x180 + $NodeId" << QByteArray::fromHex("85010000");
-    QTest::newRow("decimal offset") << "$nodeid+384" << QByteArray::fromHex("85010000");
-    QTest::newRow("node id alone") << "$NODEID" << QByteArray::fromHex("05000000");
-    QTest::newRow("octal") << "0600" << QByteArray::fromHex("80010000");
-    QTest::newRow("largest") << "0xFFFFFFFF" << QByteArray::fromHex("ffffffff");
-}
-
-void tst_ConciseDcfCreator::nodeIdFormula()
-{
-    QFETCH(QString, value);
-    QFETCH(QByteArray, data);
-    const QString sheet = writeSheet("[DeviceComissioning]\nNodeID=0x05\n[OptionalObjects]\nSupportedObjects=1\n1=0x1800\n"
-                                     "[1800sub1]\nDataType=0x0007\nAccessType=rw\nParameterValue=" + value.toUtf8() + "\n");
-    const QString output = m_dir.filePath("formula.cdcf");
-    ConciseDcfCreator creator(sheet);
-    QVERIFY2(creator.writeConciseDcf(output), qPrintable(creator.errorString()));
-    QCOMPARE(readAll(output), QByteArray::fromHex("01000000 0018 01 04000000") + data);
-}
-
-void tst_ConciseDcfCreator::malformedValue_data()
+void tst_ConciseDcfCreator::encodeValue_data()
 {
     QTest::addColumn<QByteArray>("type");
     QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QByteArray>("data");  // empty: refused with the reason
     QTest::addColumn<QString>("reason");
-    QTest::newRow("above UNSIGNED8") << QByteArray("0x0005") << QByteArray("256") << "value \"256\" is out of range for UNSIGNED8";
-    QTest::newRow("not a number") << QByteArray("0x0006") << QByteArray("12abc") << "value \"12abc\" cannot be read as UNSIGNED16";
-    QTest::newRow("node id missing") << QByteArray("0x0007") << QByteArray("$NODEID+1") << "value \"$NODEID+1\" uses $NODEID but the file has no node id";
-    QTest::newRow("below INTEGER8") << QByteArray("0x0002") << QByteArray("-129") << "value \"-129\" is out of range for INTEGER8";
-    QTest::newRow("wide hex for INTEGER8") << QByteArray("0x0002") << QByteArray("0x1FF") << "value \"0x1FF\" is out of range for INTEGER8";
-    QTest::newRow("negative unsigned") << QByteArray("0x0007") << QByteArray("-1") << "value \"-1\" is out of range for UNSIGNED32";
-    QTest::newRow("boolean 2") << QByteArray("0x0001") << QByteArray("2") << "value \"2\" is out of range for BOOLEAN";
-    QTest::newRow("odd domain") << QByteArray("0x000F") << QByteArray("0x1G") << "value \"0x1G\" is not a hex string of whole bytes for DOMAIN";
-    QTest::newRow("unknown type") << QByteArray("0x000E") << QByteArray("1") << "data type \"0x000E\" is not supported";
+    const QByteArray u32("0x0007");
+    QTest::newRow("node id first") << u32 << QByteArray("$NODEID+0x180") << QByteArray::fromHex("85010000") << "";
+    QTest::newRow("node id last, spaces, mixed case") << u32 << QByteArray("0x180 + $NodeId") << QByteArray::fromHex("85010000") << "";
+    QTest::newRow("decimal offset") << u32 << QByteArray("$nodeid+384") << QByteArray::fromHex("85010000") << "";
+    QTest::newRow("node id alone") << u32 << QByteArray("$NODEID") << QByteArray::fromHex("05000000") << "";
+    QTest::newRow("octal") << u32 << QByteArray("0600") << QByteArray::fromHex("80010000") << "";
+    QTest::newRow("largest") << u32 << QByteArray("0xFFFFFFFF") << QByteArray::fromHex("ffffffff") << "";
+    const auto bad = [](const char *tag, const char *type, const char *value, const QString &reason) {
+        QTest::newRow(tag) << QByteArray(type) << QByteArray(value) << QByteArray() << reason;
+    };
+    bad("above UNSIGNED8", "0x0005", "256", "value \"256\" is out of range for UNSIGNED8");
+    bad("not a number", "0x0006", "12abc", "value \"12abc\" cannot be read as UNSIGNED16");
+    bad("node id missing", "0x0007", "$NODEID+1", "value \"$NODEID+1\" uses $NODEID but the file has no node id");
+    bad("below INTEGER8", "0x0002", "-129", "value \"-129\" is out of range for INTEGER8");
+    bad("wide hex for INTEGER8", "0x0002", "0x1FF", "value \"0x1FF\" is out of range for INTEGER8");
+    bad("negative unsigned", "0x0007", "-1", "value \"-1\" is out of range for UNSIGNED32");
+    bad("boolean 2", "0x0001", "2", "value \"2\" is out of range for BOOLEAN");
+    bad("odd domain", "0x000F", "0x1G", "value \"0x1G\" is not a hex string of whole bytes for DOMAIN");
+    bad("unknown type", "0x000E", "1", "data type \"0x000E\" is not supported");
 }
 
-void tst_ConciseDcfCreator::malformedValue()
+void tst_ConciseDcfCreator::encodeValue()
 {
     QFETCH(QByteArray, type);
     QFETCH(QByteArray, value);
+    QFETCH(QByteArray, data);
     QFETCH(QString, reason);
-    const QString sheet = writeSheet("[OptionalObjects]\nSupportedObjects=2\n1=0x1017\n2=0x2000\n"
+    const QByteArray nodeId = data.isEmpty() ? QByteArray() : QByteArray("[DeviceComissioning]\nNodeID=0x05\n");
+    const QString sheet = writeSheet(nodeId + "[OptionalObjects]\nSupportedObjects=2\n1=0x1017\n2=0x2000\n"
                                      "[1017]\nDataType=0x0006\nAccessType=rw\nParameterValue=1000\n"
                                      "[2000]\nDataType=" + type + "\nAccessType=rw\nParameterValue=" + value + "\n");
     const QString output = m_dir.filePath("kept.cdcf");
     {
         QFile old(output);
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("old");
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
     }
     ConciseDcfCreator creator(sheet);
-    QVERIFY(!creator.writeConciseDcf(output));
-    QCOMPARE(creator.errors(), QStringList{ "0x2000sub0 [2000]: " + reason });
-    QCOMPARE(readAll(output), QByteArray("old"));
+    QCOMPARE(creator.writeConciseDcf(output), !data.isEmpty());
+    if (data.isEmpty()) {
+        QCOMPARE(creator.errors(), QStringList{ "0x2000sub0 [2000]: " + reason });
+        QCOMPARE(readAll(output), QByteArray("old"));  // a refused write keeps the old file
+    } else {
+        QCOMPARE(readAll(output), QByteArray::fromHex("02000000 1710 00 02000000 e803 0020 00 04000000") + data);
+    }
 }
 
 void tst_ConciseDcfCreator::readerRejects_data()
