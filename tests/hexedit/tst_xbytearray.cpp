@@ -242,7 +242,7 @@ private slots:
 
     void merge_data()
     {
-        // Commands as "<kind><position><byte>" separated by blanks: i insert, d remove, r replace.
+        // "<kind><position><byte>": i insert, d remove, r replace; "R<position><bytes>" an ArrayCommand replace.
         QTest::addColumn<QString>("commands");
         QTest::addColumn<int>("count");
         QTest::addColumn<QByteArray>("afterOneUndo");
@@ -253,6 +253,7 @@ private slots:
         QTest::newRow("replace then remove") << "r1X d1-" << 2 << QByteArray("aXcd") << "0100";
         QTest::newRow("different positions") << "r1X r2Y" << 2 << QByteArray("aXcd") << "0100";
         QTest::newRow("replace then insert") << "r1X i1Y" << 2 << QByteArray("aXcd") << "0100";
+        QTest::newRow("array commands never merge") << "R1XY R1ZW" << 2 << QByteArray("aXYd") << "0110";
     }
     void merge()
     {
@@ -263,8 +264,12 @@ private slots:
         QUndoStack stack;
         const QStringList list = commands.split(QLatin1Char(' '));
         for (const QString &c : list) {
-            const auto kind = CharCommand::Cmd(QStringLiteral("idr").indexOf(c.at(0)));
-            stack.push(new CharCommand(&buffer, kind, c.mid(1, 1).toInt(), c.at(2).toLatin1()));
+            const int position = c.mid(1, 1).toInt();
+            if (c.at(0) == QLatin1Char('R'))
+                stack.push(new ArrayCommand(&buffer, ArrayCommand::replace, position, c.mid(2).toLatin1(), c.size() - 2));
+            else
+                stack.push(new CharCommand(&buffer, CharCommand::Cmd(QStringLiteral("idr").indexOf(c.at(0))), position,
+                                           c.at(2).toLatin1()));
         }
         const QByteArray final = buffer.data();
         QCOMPARE(stack.count(), count);
@@ -274,18 +279,6 @@ private slots:
         QTEST(marks(buffer, buffer.data().size()), "marksAfterOneUndo");
         stack.redo();
         QCOMPARE(buffer.data(), final);
-    }
-
-    void arrayCommandsNeverMerge()
-    {
-        XByteArray buffer;
-        buffer.setData("abcdef");
-        QUndoStack stack;
-        stack.push(new ArrayCommand(&buffer, ArrayCommand::replace, 1, "XY", 2));
-        stack.push(new ArrayCommand(&buffer, ArrayCommand::replace, 1, "ZW", 2));
-        QCOMPARE(stack.count(), 2);
-        stack.undo();
-        QCOMPARE(buffer.data(), QByteArray("aXYdef"));
     }
 };
 
