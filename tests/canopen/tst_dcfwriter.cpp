@@ -277,8 +277,7 @@ void tst_DCFWriter::optionalObjects_data()
         << QByteArray("[OptionalObjects]\nSupportedObjects=\\q2\n1=0x1800\n2=0x1801\n")
         << QList<unsigned short>{ 0x2001 } << Sections{ { "SupportedObjects", "1" }, { "1", "0x2001" } };
     QTest::newRow("no section yet, padded lower-case hex")
-        << QByteArray("[FileInfo]\nA=1\n")
-        << QList<unsigned short>{ 0xFFFF, 0x0001, 0x1a00, 0x0001 }
+        << QByteArray("[FileInfo]\nA=1\n") << QList<unsigned short>{ 0xFFFF, 0x0001, 0x1a00, 0x0001 }
         << Sections{ { "SupportedObjects", "3" }, { "1", "0x0001" }, { "2", "0x1a00" }, { "3", "0xffff" } };
 }
 
@@ -470,38 +469,31 @@ void tst_DCFWriter::oddLayouts_data()
         << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("repeated key: the one read is rewritten")
         << QByteArray("[FileInfo]\nX=1\nX=2\n[1a00sub1]\nA=1")
-        << QByteArray("[FileInfo]\nX=1\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n")
-        << "FileInfo/X" << "3";
+        << QByteArray("[FileInfo]\nX=1\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n") << "FileInfo/X" << "3";
     QTest::newRow("keys outside sections and spaced keys kept")
         << QByteArray("X=0\n[FileInfo]\n  X  =  1  ; old\n[1a00sub1]\nA=1\n; tail comment\n")
-        << QByteArray("X=0\n[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n; tail comment\n")
-        << "X" << "0";
+        << QByteArray("X=0\n[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n; tail comment\n") << "X" << "0";
     QTest::newRow("General section holds keys outside sections")
         << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\n")
-        << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
-        << "X" << "5";
+        << QByteArray("[General]\nX=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n") << "X" << "5";
     // Entries end where the settings reader ends them: quotes carry over line breaks,
     // and a longer section name overrides a key of the same path outside it.
     QTest::newRow("quoted value over two lines is one entry")
         << QByteArray("[FileInfo]\nX=\"a\nb\"\n[1a00sub1]\nA=1\n")
-        << QByteArray("[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n")
-        << "1a00sub1/ParameterValue" << "7";
+        << QByteArray("[FileInfo]\nX=3\n[1a00sub1]\nA=1\nParameterValue=7\n") << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("section key overrides a slashed key outside sections")
         << QByteArray("[FileInfo]\nX=1\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\n")
         << QByteArray("[FileInfo]\nX=3\n[General]\nFileInfo\\X=2\n[1a00sub1]\nA=1\nParameterValue=7\n")
         << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("text ending inside quotes is closed first")
         << QByteArray("[1a00sub1]\nA=\"open")
-        << QByteArray("[1a00sub1]\nA=\"open\"\nParameterValue=7\n\n[FileInfo]\nX=3\n")
-        << "1a00sub1/A" << "open";
+        << QByteArray("[1a00sub1]\nA=\"open\"\nParameterValue=7\n\n[FileInfo]\nX=3\n") << "1a00sub1/A" << "open";
     QTest::newRow("final backslash escapes nothing that follows")
-        << QByteArray("[1a00sub1]\nA=x \\")
-        << QByteArray("[1a00sub1]\nA=x \\x\nParameterValue=7\n\n[FileInfo]\nX=3\n")
+        << QByteArray("[1a00sub1]\nA=x \\") << QByteArray("[1a00sub1]\nA=x \\x\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "1a00sub1/A" << "x ";
     QTest::newRow("byte order mark belongs to the first key outside sections")
         << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=1\n")
-        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=3\n")
-        << "1a00sub1/ParameterValue" << "<absent>";
+        << QByteArray("\xEF\xBB\xBF" "1a00sub1/A=1\n[FileInfo]\nX=3\n") << "1a00sub1/ParameterValue" << "<absent>";
     QTest::newRow("keys of an unnamed section are not keys outside sections")
         << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\n")
         << QByteArray("[]\nParameterValue=5\n[1a00sub1]\nA=1\nParameterValue=7\n\n[FileInfo]\nX=3\n")
@@ -511,13 +503,11 @@ void tst_DCFWriter::oddLayouts_data()
         << QByteArray("[1a00sub1]\nA=1\nB\\\\C=2\nParameterValue=7\n\n[FileInfo]\nX=3\n")
         << "1a00sub1/ParameterValue" << "7";
     QTest::newRow("byte order mark kept off a key that moves up to it")
-        << QByteArray("\xEF\xBB\xBF" "ParameterValue=1\nX=1\n")
-        << QByteArray("\xEF\xBB\xBF\nX=1\n\n[FileInfo]\nX=3\n")
+        << QByteArray("\xEF\xBB\xBF" "ParameterValue=1\nX=1\n") << QByteArray("\xEF\xBB\xBF\nX=1\n\n[FileInfo]\nX=3\n")
         << "X" << "1";
     QTest::newRow("empty section gets no value")
         << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=1\n")
-        << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n")
-        << "1a00sub1/ParameterValue" << "<absent>";
+        << QByteArray("[1a00sub1]\n; nothing\n[FileInfo]\nX=3\n") << "1a00sub1/ParameterValue" << "<absent>";
 }
 
 void tst_DCFWriter::oddLayouts()
