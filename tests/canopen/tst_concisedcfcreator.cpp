@@ -10,20 +10,18 @@ private slots:
     void initTestCase();
     void parseSection_data();
     void parseSection();
+    void duplicatesKept();
     void convertWritesNothing();
     void writeConcise();
-    void encodeValue_data();
-    void encodeValue();
+    void nodeIdFormula_data();
+    void nodeIdFormula();
+    void malformedValue_data();
+    void malformedValue();
     void readerRejects_data();
     void readerRejects();
 
 private:
     QString writeSheet(const QByteArray &text);
-    static QByteArray readAll(const QString &name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-    }
     QTemporaryDir m_dir;
     int m_files = 0;
 };
@@ -37,7 +35,10 @@ QString tst_ConciseDcfCreator::writeSheet(const QByteArray &text)
 {
     const QString name = m_dir.filePath(QStringLiteral("sheet%1.dcf").arg(++m_files));
     QFile file(name);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? name : QString();
+    if (!file.open(QIODevice::WriteOnly))
+        return QString();
+    file.write(text);
+    return name;
 }
 
 using Indices = QVector<unsigned short>;
@@ -50,17 +51,20 @@ void tst_ConciseDcfCreator::parseSection_data()
         << QByteArray("SupportedObjects=0x3\n1=0x1000\n2=0X1001\n3=0x1018\n") << Indices{ 0x1000, 0x1018 };
     QTest::newRow("decimal count, upper-case digits accepted")
         << QByteArray("SupportedObjects=2\n1=0x1A00\n2=0x1a01\n") << Indices{ 0x1A00, 0x1A01 };
-    QTest::newRow("octal count") << QByteArray("SupportedObjects=010\n1=0x1\n8=0x8\n9=0x9\n") << Indices{ 0x1, 0x8 };
+    QTest::newRow("octal count")
+        << QByteArray("SupportedObjects=010\n1=0x1\n8=0x8\n9=0x9\n") << Indices{ 0x1, 0x8 };
     QTest::newRow("bare hex skipped without a gap")
         << QByteArray("SupportedObjects=3\n1=1A00\n2=0x2000\n3=x\n") << Indices{ 0x2000 };
-    QTest::newRow("unparsable count") << QByteArray("SupportedObjects=three\n1=0x1000\n") << Indices{};
-    QTest::newRow("negative count") << QByteArray("SupportedObjects=-1\n1=0x1000\n") << Indices{};
-    QTest::newRow("count beyond the keys") << QByteArray("SupportedObjects=4\n2=0x6000\n") << Indices{ 0x6000 };
+    QTest::newRow("unparsable count")
+        << QByteArray("SupportedObjects=three\n1=0x1000\n") << Indices{};
+    QTest::newRow("negative count")
+        << QByteArray("SupportedObjects=-1\n1=0x1000\n") << Indices{};
+    QTest::newRow("count beyond the keys")
+        << QByteArray("SupportedObjects=4\n2=0x6000\n") << Indices{ 0x6000 };
     QTest::newRow("huge count visits only the keys present")
         << QByteArray("SupportedObjects=0x7fffffff\n3=0x3000\n1=0x1000\n01=0x0100\n") << Indices{ 0x1000, 0x3000 };
-    QTest::newRow("duplicates, also of indices already listed, kept")
-        << QByteArray("SupportedObjects=2\n1=0x0100\n2=0x0100\n") << Indices{ 0x0100, 0x0100 };
-    QTest::newRow("wide value keeps low 16 bits") << QByteArray("SupportedObjects=1\n1=0x12345\n") << Indices{ 0x2345 };
+    QTest::newRow("wide value keeps low 16 bits")
+        << QByteArray("SupportedObjects=1\n1=0x12345\n") << Indices{ 0x2345 };
 }
 
 void tst_ConciseDcfCreator::parseSection()
@@ -73,15 +77,30 @@ void tst_ConciseDcfCreator::parseSection()
     QCOMPARE(indices, Indices{ 0x0100 } + expected);
 }
 
+void tst_ConciseDcfCreator::duplicatesKept()
+{
+    ConciseDcfCreator creator(writeSheet("[MandatoryObjects]\nSupportedObjects=1\n1=0x1000\n"
+                                         "[OptionalObjects]\nSupportedObjects=2\n1=0x1000\n2=0x0100\n"));
+    Indices indices;
+    creator.parseSectionForIndices(indices, "MandatoryObjects");
+    creator.parseSectionForIndices(indices, "OptionalObjects");
+    QCOMPARE(indices, (Indices{ 0x1000, 0x1000, 0x0100 }));
+}
+
 void tst_ConciseDcfCreator::convertWritesNothing()
 {
     const QString sheet = writeSheet("[MandatoryObjects]\nSupportedObjects=1\n1=0x1000\n"
                                      "[1000]\nParameterName=Device type\nParameterValue=0x191\n");
-    const QByteArray before = readAll(sheet);
+    QFile original(sheet);
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    const QByteArray before = original.readAll();
+    original.close();
     const QString output = m_dir.filePath("out.bin");
-    QVERIFY(!ConciseDcfCreator(sheet).convert(output));
+    ConciseDcfCreator creator(sheet);
+    QVERIFY(!creator.convert(output));
     QVERIFY(!QFile::exists(output));
-    QCOMPARE(readAll(sheet), before);
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    QCOMPARE(original.readAll(), before);
 }
 
 static const QByteArray conciseSheet =
@@ -99,12 +118,34 @@ static const QByteArray conciseSheet =
     "[2001]\nDataType=0x0003\nAccessType=wo\nParameterValue=-2\n"
     "[6000]\nDataType=0x000F\nAccessType=rww\nParameterValue=0A0B0C\n";
 
+// Reads the form by hand, independently of the creator's own reader.
+static QList<QPair<QString, QByteArray>> decodeByHand(const QByteArray &bytes)
+{
+    QList<QPair<QString, QByteArray>> out;
+    QDataStream in(bytes);
+    in.setByteOrder(QDataStream::LittleEndian);
+    quint32 count = 0;
+    in >> count;
+    for (quint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        quint16 index = 0;
+        quint8 sub = 0;
+        quint32 size = 0;
+        in >> index >> sub >> size;
+        QByteArray data(int(qMin<quint32>(size, 1024)), '\0');
+        in.readRawData(data.data(), data.size());
+        out.append({ QString::number(index, 16) + "/" + QString::number(sub), data });
+    }
+    return out;
+}
+
 void tst_ConciseDcfCreator::writeConcise()
 {
     const QString output = m_dir.filePath("node5.cdcf");
     ConciseDcfCreator creator(writeSheet(conciseSheet));
     QVERIFY2(creator.writeConciseDcf(output), qPrintable(creator.errorString()));
-    const QByteArray bytes = readAll(output);
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
     QCOMPARE(bytes.toHex(' '), QByteArray("05 00 00 00 "
                                           "17 10 00 02 00 00 00 e8 03 "
                                           "00 18 01 04 00 00 00 85 01 00 00 "
@@ -112,6 +153,10 @@ void tst_ConciseDcfCreator::writeConcise()
                                           "01 20 00 02 00 00 00 fe ff "
                                           "00 60 00 03 00 00 00 0a 0b 0c"));
 
+    const QList<QPair<QString, QByteArray>> expected = {
+        { "1017/0", QByteArray::fromHex("e803") }, { "1800/1", QByteArray::fromHex("85010000") },
+        { "2000/0", "Hi" }, { "2001/0", QByteArray::fromHex("feff") }, { "6000/0", QByteArray::fromHex("0a0b0c") } };
+    QCOMPARE(decodeByHand(bytes), expected);
 
     QList<ConciseDcfCreator::ConciseEntry> entries;
     QString error;
@@ -120,60 +165,75 @@ void tst_ConciseDcfCreator::writeConcise()
     QCOMPARE(entries.at(1).index, quint16(0x1800));
     QCOMPARE(entries.at(1).subIndex, quint8(1));
     QCOMPARE(entries.at(4).data, QByteArray::fromHex("0a0b0c"));
-    QCOMPARE(creator.dataItems().size(), 5);
-    QCOMPARE(creator.dataItems().at(3).size, quint32(2));
+
+    const QList<ConciseDcfCreator::stDataItems> items = creator.dataItems();
+    QCOMPARE(items.size(), 5);
+    QCOMPARE(items.at(3).index, quint16(0x2001));
+    QCOMPARE(items.at(3).size, quint32(2));
 }
 
-void tst_ConciseDcfCreator::encodeValue_data()
+void tst_ConciseDcfCreator::nodeIdFormula_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("node id first") << "$NODEID+0x180" << QByteArray::fromHex("85010000");
+    QTest::newRow("node id last, spaces, mixed case") << "0x180 + $NodeId" << QByteArray::fromHex("85010000");
+    QTest::newRow("decimal offset") << "$nodeid+384" << QByteArray::fromHex("85010000");
+    QTest::newRow("node id alone") << "$NODEID" << QByteArray::fromHex("05000000");
+    QTest::newRow("octal") << "0600" << QByteArray::fromHex("80010000");
+    QTest::newRow("largest") << "0xFFFFFFFF" << QByteArray::fromHex("ffffffff");
+}
+
+void tst_ConciseDcfCreator::nodeIdFormula()
+{
+    QFETCH(QString, value);
+    QFETCH(QByteArray, data);
+    const QString sheet = writeSheet("[DeviceComissioning]\nNodeID=0x05\n[OptionalObjects]\nSupportedObjects=1\n1=0x1800\n"
+                                     "[1800sub1]\nDataType=0x0007\nAccessType=rw\nParameterValue=" + value.toUtf8() + "\n");
+    const QString output = m_dir.filePath("formula.cdcf");
+    ConciseDcfCreator creator(sheet);
+    QVERIFY2(creator.writeConciseDcf(output), qPrintable(creator.errorString()));
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray::fromHex("01000000 0018 01 04000000") + data);
+}
+
+void tst_ConciseDcfCreator::malformedValue_data()
 {
     QTest::addColumn<QByteArray>("type");
     QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QByteArray>("data");  // empty: refused with the reason
     QTest::addColumn<QString>("reason");
-    const QByteArray u32("0x0007");
-    QTest::newRow("node id first") << u32 << QByteArray("$NODEID+0x180") << QByteArray::fromHex("85010000") << "";
-    QTest::newRow("node id last, spaces, mixed case") << u32 << QByteArray("0x180 + $NodeId") << QByteArray::fromHex("85010000") << "";
-    QTest::newRow("decimal offset") << u32 << QByteArray("$nodeid+384") << QByteArray::fromHex("85010000") << "";
-    QTest::newRow("node id alone") << u32 << QByteArray("$NODEID") << QByteArray::fromHex("05000000") << "";
-    QTest::newRow("octal") << u32 << QByteArray("0600") << QByteArray::fromHex("80010000") << "";
-    QTest::newRow("largest") << u32 << QByteArray("0xFFFFFFFF") << QByteArray::fromHex("ffffffff") << "";
-    const auto bad = [](const char *tag, const char *type, const char *value, const QString &reason) {
-        QTest::newRow(tag) << QByteArray(type) << QByteArray(value) << QByteArray() << reason;
-    };
-    bad("above UNSIGNED8", "0x0005", "256", "value \"256\" is out of range for UNSIGNED8");
-    bad("not a number", "0x0006", "12abc", "value \"12abc\" cannot be read as UNSIGNED16");
-    bad("node id missing", "0x0007", "$NODEID+1", "value \"$NODEID+1\" uses $NODEID but the file has no node id");
-    bad("below INTEGER8", "0x0002", "-129", "value \"-129\" is out of range for INTEGER8");
-    bad("wide hex for INTEGER8", "0x0002", "0x1FF", "value \"0x1FF\" is out of range for INTEGER8");
-    bad("negative unsigned", "0x0007", "-1", "value \"-1\" is out of range for UNSIGNED32");
-    bad("boolean 2", "0x0001", "2", "value \"2\" is out of range for BOOLEAN");
-    bad("odd domain", "0x000F", "0x1G", "value \"0x1G\" is not a hex string of whole bytes for DOMAIN");
-    bad("unknown type", "0x000E", "1", "data type \"0x000E\" is not supported");
+    QTest::newRow("above UNSIGNED8") << QByteArray("0x0005") << QByteArray("256") << "value \"256\" is out of range for UNSIGNED8";
+    QTest::newRow("not a number") << QByteArray("0x0006") << QByteArray("12abc") << "value \"12abc\" cannot be read as UNSIGNED16";
+    QTest::newRow("node id missing") << QByteArray("0x0007") << QByteArray("$NODEID+1") << "value \"$NODEID+1\" uses $NODEID but the file has no node id";
+    QTest::newRow("below INTEGER8") << QByteArray("0x0002") << QByteArray("-129") << "value \"-129\" is out of range for INTEGER8";
+    QTest::newRow("wide hex for INTEGER8") << QByteArray("0x0002") << QByteArray("0x1FF") << "value \"0x1FF\" is out of range for INTEGER8";
+    QTest::newRow("negative unsigned") << QByteArray("0x0007") << QByteArray("-1") << "value \"-1\" is out of range for UNSIGNED32";
+    QTest::newRow("boolean 2") << QByteArray("0x0001") << QByteArray("2") << "value \"2\" is out of range for BOOLEAN";
+    QTest::newRow("odd domain") << QByteArray("0x000F") << QByteArray("0x1G") << "value \"0x1G\" is not a hex string of whole bytes for DOMAIN";
+    QTest::newRow("unknown type") << QByteArray("0x000E") << QByteArray("1") << "data type \"0x000E\" is not supported";
 }
 
-void tst_ConciseDcfCreator::encodeValue()
+void tst_ConciseDcfCreator::malformedValue()
 {
     QFETCH(QByteArray, type);
     QFETCH(QByteArray, value);
-    QFETCH(QByteArray, data);
     QFETCH(QString, reason);
-    const QByteArray nodeId = data.isEmpty() ? QByteArray() : QByteArray("[DeviceComissioning]\nNodeID=0x05\n");
-    const QString sheet = writeSheet(nodeId + "[OptionalObjects]\nSupportedObjects=2\n1=0x1017\n2=0x2000\n"
+    const QString sheet = writeSheet("[OptionalObjects]\nSupportedObjects=2\n1=0x1017\n2=0x2000\n"
                                      "[1017]\nDataType=0x0006\nAccessType=rw\nParameterValue=1000\n"
                                      "[2000]\nDataType=" + type + "\nAccessType=rw\nParameterValue=" + value + "\n");
     const QString output = m_dir.filePath("kept.cdcf");
     {
         QFile old(output);
-        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+        QVERIFY(old.open(QIODevice::WriteOnly));
+        old.write("old");
     }
     ConciseDcfCreator creator(sheet);
-    QCOMPARE(creator.writeConciseDcf(output), !data.isEmpty());
-    if (data.isEmpty()) {
-        QCOMPARE(creator.errors(), QStringList{ "0x2000sub0 [2000]: " + reason });
-        QCOMPARE(readAll(output), QByteArray("old"));  // a refused write keeps the old file
-    } else {
-        QCOMPARE(readAll(output), QByteArray::fromHex("02000000 1710 00 02000000 e803 0020 00 04000000") + data);
-    }
+    QVERIFY(!creator.writeConciseDcf(output));
+    QCOMPARE(creator.errors(), QStringList{ "0x2000sub0 [2000]: " + reason });
+    QFile file(output);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("old"));
 }
 
 void tst_ConciseDcfCreator::readerRejects_data()
