@@ -80,6 +80,32 @@ class tst_GenericViewSearch : public QObject
     Q_OBJECT
 
 private slots:
+    void menuActions_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QKeySequence>("shortcut");
+        QTest::addColumn<bool>("checkable");
+        QTest::newRow("next") << 0 << "Search next" << QKeySequence(QKeySequence::FindNext) << false;
+        QTest::newRow("sub elements") << 1 << "Search sub elements" << QKeySequence() << true;
+        QTest::newRow("all") << 2 << "Search all" << QKeySequence(Qt::Key_F4) << false;
+    }
+    void menuActions()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, text);
+        QFETCH(QKeySequence, shortcut);
+        QFETCH(bool, checkable);
+        Fixture f(false);
+        QAction *action = f.search->getMenuAction(GenericViewSearch::ActionType(type));
+        QVERIFY(action);
+        QCOMPARE(action->parent(), f.search.get());
+        QCOMPARE(action->text(), text);
+        QCOMPARE(action->shortcut(), shortcut);
+        QCOMPARE(action->isCheckable(), checkable);
+        QVERIFY(!action->isChecked());
+        QVERIFY(!f.search->getMenuAction(GenericViewSearch::ActionType(3)));
+    }
     void searchNext_data();
     void searchNext();
     void nextAfterAll_data();
