@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # cpack -G DEB builds libcommongui1 (the shared libraries) and libcommongui-dev
 # (headers, CMake package, pkg-config file). The demo tool is not packaged.
 set(CPACK_PACKAGE_NAME commongui)

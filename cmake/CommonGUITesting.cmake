@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # commongui_add_test(<name> LABEL <subsystem> SOURCES <files...> [LIBS <targets...>])
 set(COMMONGUI_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"

@@ -1,4 +1,6 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # Configures and builds into ${BUILD_DIR:-build}. Extra arguments go to cmake.
 set -euo pipefail
 src="$(cd "$(dirname "$0")/.." && pwd)"

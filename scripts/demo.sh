@@ -1,4 +1,6 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # Sets everything up and runs the demo tool. Without a display it runs under
 # Xvfb if it can, otherwise it writes screenshots of every window.
 set -euo pipefail

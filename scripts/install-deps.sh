@@ -1,4 +1,6 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # Installs what building, testing and running CommonGUI needs on Debian 12.
 set -euo pipefail
 packages=(build-essential cmake pkg-config ccache

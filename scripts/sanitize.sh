@@ -1,4 +1,6 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 # Builds the library and its tests with AddressSanitizer, UndefinedBehaviorSanitizer
 # and LeakSanitizer into ${BUILD_DIR:-build-asan} and runs the whole test suite.
 set -euo pipefail

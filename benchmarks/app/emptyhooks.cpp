@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 extern "C" {
 __attribute__((visibility("default"), no_instrument_function)) void
 __cyg_profile_func_enter(void *, void *)

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Debug-log throughput: messages through messageHandler into the log file (each
 // stands there twice) against a plain fprintf loop writing the same two lines.
 #include "DebugCrashHandler.h"

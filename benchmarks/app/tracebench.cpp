@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A call-heavy instrumented loop. Built twice: against the library's hooks and
 // against empty hooks; the library build runs the peer and prints both.
 #include <chrono>

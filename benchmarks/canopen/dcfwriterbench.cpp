@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Configuring a whole data sheet: open, a value on every sub-object, write.
 // A sheet four times larger should cost about four times as much.
 #include "DCFWriter.h"

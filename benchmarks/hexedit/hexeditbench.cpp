@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The hex editor on a 16 MiB image: the readable dump against xxd over the same
 // bytes, and the paint time of one screen at the end against the start.
 #include "QHexEdit.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // "Search all" over a million rows against the plain loop a tool would write:
 // read the same role of every row and test it with QString::contains.
 #include "GenericViewSearch.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Colouring a generated 50,000-line C file: AnsiCHighlighter on a document
 // against the command-line "highlight" tool (Debian package "highlight") on
 // the same file, both in lines per second. The peer is skipped when absent.

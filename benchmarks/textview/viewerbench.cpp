@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Opening a 5 MB C file in the viewer (read, set, highlight, lay out) against
 // putting the same text into a bare QTextEdit with setPlainText.
 #include "FileViewerDialog.h"

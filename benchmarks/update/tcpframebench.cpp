@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Round trips of framed messages over loopback TCP: TcpSocketClient against a
 // plain QTcpSocket that frames by hand. An echo server in the same event loop
 // sends every byte back, so both sides see the same server.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Cost of fitting the overlay's caption: the library's linear walk from 400 pt
 // down in steps of 30 against a binary search over the same sizes, both with
 // fresh font metrics per try. It is why small resizes skip the refit.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Turning a device's data sheet into the configuration of one node.
 #include <CommonGUI/ConciseDcfCreator.h>
 #include <CommonGUI/DCFWriter.h>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A tool's Help and Tools menus on CommonGUI: help viewer, manuals, tips,
 // value converter and About box, in the library's German texts on request.
 #include <CommonGUI/AboutDialog.h>

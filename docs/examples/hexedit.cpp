@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A device-configuration window that edits a node's EEPROM image in a QHexEdit.
 #include <CommonGUI/QHexEdit.h>
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Searching a trace table from a line edit, a find button and menu actions.
 #include <CommonGUI/GenericViewSearch.h>
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Showing a file in the viewer, and colouring a document of your own.
 #include <CommonGUI/EdsHighlighter.h>
 #include <CommonGUI/FileViewerDialog.h>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Checking for updates and sending the crash dumps of earlier runs.
 #include <CommonGUI/KorvilBaseApplication.h>
 #include <CommonGUI/SentryCrashRecoverer.h>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A small CANopen tool of the family, built on CommonGUI like any other.
 #include "DemoWindow.h"
 

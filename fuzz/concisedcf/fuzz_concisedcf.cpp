@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Arbitrary INI text through the concise DCF preparation and output, and the
 // same bytes through the binary reader. Whatever is written must read back as
 // the entries the creator reports.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Arbitrary INI text through the DCF writer: the first four bytes choose the
 // object (index, sub-index) and which edits run, the rest is the file. What a
 // QSettings reader sees in the written file must equal what QSettings itself

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Arbitrary bytes through the buffer: the first bytes choose the dump range,
 // address width and offset, the rest is the data.
 #include "XByteArray.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A reply of the posted update check, as its reply parser sees it: the first byte gives
 // the length of the running version, which follows; the rest is the reply.
 #include "UpdateProtocol_p.h"

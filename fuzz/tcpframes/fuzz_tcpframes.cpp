@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The byte stream of a TcpSocketClient, cut into frames. The first byte chooses the sizes
 // of the chunks in which the rest arrives; after each chunk one message is taken, as on a
 // readyRead, and at the end the buffer is drained. Whatever the chunks, the messages must

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Arbitrary tip files: parsed, then every tip shown and stepped through in both
 // directions, pictures and animations looked up under ":/totd/totd/".
 #include "TipOfTheDay.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The text of a version file: the first byte gives the length of the running version,
 // the second that of the product name, both follow; the rest is the body.
 #include "UpdateProtocol_p.h"

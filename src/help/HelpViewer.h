@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -24,7 +26,7 @@ public:
     // whether the engine could set up its data. A second call adds new panes.
     bool setHelpFile(QString collectionFile);
 
-public slots:
+public Q_SLOTS:
     void onDocumentActivated(const QHelpLink &link, const QString &keyword);
     void searchRequest();
     void on_btnClose_clicked();

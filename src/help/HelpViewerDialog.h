@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -25,7 +27,7 @@ public:
     void setManualFile(const QString &path);
     bool showManual();
 
-public slots:
+public Q_SLOTS:
     void on_pushButton_clicked();
 
 private:

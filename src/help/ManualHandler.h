@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -28,7 +30,7 @@ public:
     // Menu titles by manual base name ("handbook_tarvet_de" -> "Handbuch (de)").
     static const QMap<QString, QString> mFileNameToDisplayName;
 
-public slots:
+public Q_SLOTS:
     void actionTriggered();
 
 private:

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QHexEdit.h"
 
 #include "QHexEditPrivate.h"
@@ -70,7 +72,7 @@ void QHexEdit::setAddressOffset(int offset)
     const int address = cursorPosition() + offset;
     if (address != d->m_lastAddress) {
         d->m_lastAddress = address;
-        emit currentAddressChanged(address);
+        Q_EMIT currentAddressChanged(address);
     }
 }
 
@@ -177,7 +179,7 @@ void QHexEdit::setOverwriteMode(bool overwrite)
         return;
     d->m_overwrite = overwrite;
     d->update();
-    emit overwriteModeChanged(overwrite);
+    Q_EMIT overwriteModeChanged(overwrite);
 }
 
 bool QHexEdit::isReadOnly() const
@@ -230,10 +232,10 @@ void QHexEdit::setBytesEnabled(int count)
     const int size = d->m_buffer.size();
     d->m_cursor = std::min(d->m_cursor, 2 * size);
     d->setSelectionRange(std::min(d->m_selBegin, size), std::min(d->m_selEnd, size), d->m_selAnchor);
-    emit dataChanged();
+    Q_EMIT dataChanged();
     if (size != d->m_lastSize) {
         d->m_lastSize = size;
-        emit currentSizeChanged(size);
+        Q_EMIT currentSizeChanged(size);
     }
 }
 

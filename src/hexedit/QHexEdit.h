@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -108,7 +110,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-public slots:
+public Q_SLOTS:
     // Replaces the bytes, clears the change marks, the undo stack and the selection.
     void setData(const QByteArray &data);
     void setOverwriteMode(bool overwrite);
@@ -121,7 +123,7 @@ public slots:
     void paste();
     void ensureCursorVisible();
 
-signals:
+Q_SIGNALS:
     // The cursor's address: its byte index plus addressOffset().
     void currentAddressChanged(int address);
     void currentSizeChanged(int size);

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "QHexEditPrivate.h"
 
 #include "ArrayCommand.h"
@@ -123,12 +125,12 @@ void QHexEditPrivate::setData(const QByteArray &data)
     q->verticalScrollBar()->setValue(0);
     q->horizontalScrollBar()->setValue(0);
     update();
-    emit q->dataChanged();
+    Q_EMIT q->dataChanged();
     if (m_lastSize != m_buffer.size()) {
         m_lastSize = m_buffer.size();
-        emit q->currentSizeChanged(m_lastSize);
+        Q_EMIT q->currentSizeChanged(m_lastSize);
     }
-    emit q->selectionChanged();
+    Q_EMIT q->selectionChanged();
     emitCursorSignals();
 }
 
@@ -364,7 +366,7 @@ void QHexEditPrivate::emitCursorSignals()
     const int address = m_cursor / 2 + m_buffer.addressOffset();
     if (address != m_lastAddress) {
         m_lastAddress = address;
-        emit q->currentAddressChanged(address);
+        Q_EMIT q->currentAddressChanged(address);
     }
 }
 
@@ -406,7 +408,7 @@ void QHexEditPrivate::setSelectionRange(int begin, int end, int anchor)
     m_selEnd = end;
     update();
     if (had || begin != end)
-        emit q->selectionChanged();
+        Q_EMIT q->selectionChanged();
 }
 
 void QHexEditPrivate::clearSelection()
@@ -437,10 +439,10 @@ void QHexEditPrivate::bufferChanged()
     else
         updateScrollBars();
     update();
-    emit q->dataChanged();
+    Q_EMIT q->dataChanged();
     if (size != m_lastSize) {
         m_lastSize = size;
-        emit q->currentSizeChanged(size);
+        Q_EMIT q->currentSizeChanged(size);
     }
     ensureCursorVisible();
     emitCursorSignals();

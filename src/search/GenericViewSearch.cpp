@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "GenericViewSearch.h"
 
 #include <QAbstractItemView>
@@ -254,7 +256,7 @@ void GenericViewSearch::handleFoundIndex()
     if (m_searching)
         return;
     showProgressBar(false, false, 0);
-    emit stopAutoscroll();
+    Q_EMIT stopAutoscroll();
     if (m_foundIndices.isEmpty()) {
         searchResult(NotFound);
         return;
@@ -277,7 +279,7 @@ void GenericViewSearch::handleFoundIndex()
 
 void GenericViewSearch::handleFoundIndices()
 {
-    emit stopAutoscroll();
+    Q_EMIT stopAutoscroll();
     showProgressBar(false, false, 0);
     if (!m_view || !m_view->selectionModel())
         return;

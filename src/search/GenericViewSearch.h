@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -49,13 +51,13 @@ public:
     void updateProgressbar(unsigned char value);
     void createAndAddProgressDialog();
 
-signals:
+Q_SIGNALS:
     void sigShowProgressbar(bool show, bool showProgress, int maximum);
     void sigNewProgress(unsigned char progress);
     void sigSearchResult(GenericViewSearch::SearchResult searchResult);
     void stopAutoscroll();
 
-public slots:
+public Q_SLOTS:
     void setSearchTVChildren(bool enabled);
     void onSearchNext();
     void onSearchTextChanged(QString newText);

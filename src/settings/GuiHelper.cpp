@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "GuiHelper.h"
 
 #include "QHexEdit.h"
@@ -186,7 +188,7 @@ bool GuiHelper::restoreSettings(QWidget *widget, QString group, QString fileName
             return;
         w->setChecked(store->value(w->objectName(), w->isChecked()).toBool());
         // As if the user had clicked: slots enabling dependent widgets run too.
-        emit w->clicked(w->isChecked());
+        Q_EMIT w->clicked(w->isChecked());
     });
     for (QTableWidget *table : savedTables(widget))
         restoreTable(table, *store);

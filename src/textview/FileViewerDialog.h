@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -19,11 +21,11 @@ public:
     explicit FileViewerDialog(QString filePath, QWidget *parent = nullptr);
     ~FileViewerDialog() override;
 
-public slots:
+public Q_SLOTS:
     // Point size for the text; the file is reloaded so that all of it takes the size.
     void setTextSize(double size);
 
-private slots:
+private Q_SLOTS:
     void fileModified(const QString &path);
     void timerElapsed();
     void on_actionIncreaseFontSize_triggered();

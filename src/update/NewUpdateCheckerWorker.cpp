@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "NewUpdateCheckerWorker.h"
 
 #include <QNetworkAccessManager>
@@ -55,10 +57,10 @@ QNetworkReply *NewUpdateCheckerWorker::doGet(QNetworkRequest request)
 
 void NewUpdateCheckerWorker::replyFinished(QNetworkReply *reply)
 {
-    emit resultReady(reply, QNetworkReply::NoError);
+    Q_EMIT resultReady(reply, QNetworkReply::NoError);
 }
 
 void NewUpdateCheckerWorker::replyError(QNetworkReply::NetworkError error)
 {
-    emit resultReady(nullptr, error);
+    Q_EMIT resultReady(nullptr, error);
 }

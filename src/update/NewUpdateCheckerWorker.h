@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -16,11 +18,11 @@ class COMMONGUI_EXPORT NewUpdateCheckerWorker : public QObject
 public:
     explicit NewUpdateCheckerWorker(QObject *parent = nullptr);
 
-signals:
+Q_SIGNALS:
     // reply is null when error reports a failure; the finished reply follows separately.
     void resultReady(QNetworkReply *reply, QNetworkReply::NetworkError error);
 
-public slots:
+public Q_SLOTS:
     void doWork(QNetworkRequest request, QByteArray block);
     QNetworkReply *doGet(QNetworkRequest request);
     void replyFinished(QNetworkReply *reply);

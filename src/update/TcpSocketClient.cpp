@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "TcpSocketClient.h"
 
 #include "UpdateProtocol_p.h"
@@ -42,19 +44,19 @@ void TcpSocketClient::readDataFromSocket()
 {
     QByteArray message;
     if (CommonGUI::UpdateProtocol::takeFrame(this, blockSize, &message))
-        emit receivedData(message);
+        Q_EMIT receivedData(message);
 }
 
 void TcpSocketClient::endConnection()
 {
     abort();
-    emit isDisConnected();
+    Q_EMIT isDisConnected();
     disconnectFromHost();
 }
 
 void TcpSocketClient::setConnected()
 {
-    emit isConnected();
+    Q_EMIT isConnected();
 }
 
 void TcpSocketClient::hostFound()

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -17,12 +19,12 @@ public:
 
     void writeDataToSocket(QByteArray data);
 
-signals:
+Q_SIGNALS:
     void receivedData(QByteArray dataFromServer);
     void isConnected();
     void isDisConnected();
 
-public slots:
+public Q_SLOTS:
     // Takes at most one message per call; further buffered messages wait for the next readyRead.
     void readDataFromSocket();
     void endConnection();

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "UpdateChecker.h"
 
 #include "UpdateProtocol_p.h"
@@ -68,7 +70,7 @@ void UpdateChecker::replyFinished(QNetworkReply *reply)
             box.setInformativeText(message);
             box.setIcon(QMessageBox::Information);
             if (silent)
-                emit newVersion(message);
+                Q_EMIT newVersion(message);
         } else {
             box.setText(tr("Query for update successful."));
             box.setInformativeText(QStringLiteral("No new version available. Version ") + info.serverVersion

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -20,11 +22,11 @@ public:
 
     void queryForUpdates(QString productName, QString currentVersion, bool silent);
 
-signals:
+Q_SIGNALS:
     // Silent mode only, when the server names a newer version.
     void newVersion(QString message);
 
-public slots:
+public Q_SLOTS:
     void replyFinished(QNetworkReply *reply);
 
 private:

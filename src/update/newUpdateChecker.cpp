@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "newUpdateChecker.h"
 
 #include "NewUpdateCheckerWorker.h"
@@ -81,7 +83,7 @@ void newUpdateChecker::sendList(QStringList list, unsigned short messageCode)
             &NewUpdateCheckerWorker::doWork, Qt::UniqueConnection);
     connect(worker, &NewUpdateCheckerWorker::resultReady, this, &newUpdateChecker::handlePostResult);
     workerThread.start(QThread::InheritPriority);
-    emit post(request, body);
+    Q_EMIT post(request, body);
 }
 
 void newUpdateChecker::setServer(const QString &address, quint16 port)
@@ -109,7 +111,7 @@ void newUpdateChecker::handlePostResult(QNetworkReply *reply, QNetworkReply::Net
 
 void newUpdateChecker::replyError(QNetworkReply::NetworkError error)
 {
-    emit networkReplyError(error);
+    Q_EMIT networkReplyError(error);
 }
 
 void newUpdateChecker::replyFinished(QNetworkReply *reply)
@@ -148,7 +150,7 @@ void newUpdateChecker::checkNewerVersion(QMap<QString, QString> versionList)
         return;
 
     if (!showMessage) {
-        emit versionAvailable(comparison.serverVersion, key, comparison.newer);
+        Q_EMIT versionAvailable(comparison.serverVersion, key, comparison.newer);
         return;
     }
     // Decided on the digit strings, not on newer: the two rules differ on purpose.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -32,13 +34,13 @@ public:
     void connectToServer();
     void isx86(signed char);
 
-signals:
+Q_SIGNALS:
     void versionAvailable(QString version, QString productKey, bool newer);
     void networkReplyError(QNetworkReply::NetworkError error);
     void post(QNetworkRequest request, QByteArray data);
     void post(QNetworkRequest request);
 
-public slots:
+public Q_SLOTS:
     void replyFinished(QNetworkReply *reply);
     void replyError(QNetworkReply::NetworkError error);
     void readData(QByteArray receivedData);

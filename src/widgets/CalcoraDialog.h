@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -16,7 +18,7 @@ public:
     explicit CalcoraDialog(QWidget *parent = nullptr);
     ~CalcoraDialog() override;
 
-public slots:
+public Q_SLOTS:
     void on_edtbin_textChanged(const QString &arg1);
     void on_edtDec_textChanged(const QString &arg1);
     void on_edtHex_textChanged(const QString &arg1);

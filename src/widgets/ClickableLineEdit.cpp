@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "ClickableLineEdit.h"
 
 #include <QMouseEvent>
@@ -39,7 +41,7 @@ void ClickableLineEdit::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && pressed) {
         pressed = false;
-        emit clicked(linkText);
+        Q_EMIT clicked(linkText);
     }
     QLineEdit::mouseReleaseEvent(event);
 }

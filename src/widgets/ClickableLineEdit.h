@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -17,7 +19,7 @@ public:
     // Also forgets the link (hides QLineEdit::clear).
     void clear();
 
-signals:
+Q_SIGNALS:
     // Sent on every left click, with an empty text when no link is set.
     void clicked(QString);
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "CustomLineEdit.h"
 
 #include <QDragMoveEvent>
@@ -61,5 +63,5 @@ void CustomLineEdit::dropEvent(QDropEvent *event)
     event->acceptProposedAction();
     setText(path);
     if (invokeReturnPressed)
-        emit returnPressed();
+        Q_EMIT returnPressed();
 }

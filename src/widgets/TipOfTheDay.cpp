@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #include "TipOfTheDay.h"
 #include "ui_TipOfTheDay.h"
 
@@ -87,7 +89,7 @@ void TipOfTheDay::showNewTip(unsigned char index)
 
 void TipOfTheDay::on_btnClose_clicked()
 {
-    emit newTipValues(currentTip, ui->checkBox->isChecked());
+    Q_EMIT newTipValues(currentTip, ui->checkBox->isChecked());
     close();
 }
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 #include "commongui_export.h"
@@ -33,11 +35,11 @@ public:
     bool parseTipFile();
     void showNewTip(unsigned char index);
 
-signals:
+Q_SIGNALS:
     // Sent when the dialog is closed by its close button (not by the frame).
     void newTipValues(unsigned char lastTip, bool showTips);
 
-public slots:
+public Q_SLOTS:
     void on_btnClose_clicked();
     void on_btnNext_clicked();
     void on_btnPrev_clicked();

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Runs the actions named on its command line ("@action[:arg]") inside a
 // KorvilBaseApplication, so tests can watch the real process: exit code,
 // stderr, files.

@@ -1,4 +1,6 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 set -euo pipefail
 build="$1"; scratch="$2"; consumer="$3"
 rm -rf "$scratch"

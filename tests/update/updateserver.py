@@ -1,4 +1,6 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 """Loopback stand-in for the update server and the crash-report endpoint.
 
 Usage: updateserver.py DIR. Listens on 127.0.0.1 at a free port and prints it.

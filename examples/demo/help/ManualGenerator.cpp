@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Writes the demo tool's PDF manuals, so that its Manuals menu has something
 // real to open: a title page and a few lines of text each.
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The application frame: tracing on and off, slow-event timing, the log file.
 #include "DemoModule.h"
 #include "DemoWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // CANopen: configure a node from its data sheet and write its DCF.
 #include "DemoModule.h"
 #include "DemoWindow.h"

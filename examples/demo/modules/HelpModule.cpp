@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Help and small widgets: help viewer, quick help, manuals, tip of the day,
 // value converter, About box, the application style and an EDS drop field.
 #include "DemoModule.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The hex editor: a firmware image in a QHexEdit with undo, redo and a status line.
 #include "DemoModule.h"
 #include "DemoWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // The "Network" panel: its inputs and its node table survive restarts through
 // GuiHelper (restored when the window opens, saved when it closes).
 #include "DemoModule.h"

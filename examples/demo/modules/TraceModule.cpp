@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // A CAN trace window searched with GenericViewSearch, and the file viewer.
 #include "DemoModule.h"
 #include "DemoWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Update checks and the upload of crash dumps that earlier runs left behind.
 #include "DemoModule.h"
 #include "DemoWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The CommonGUI developers
+// SPDX-License-Identifier: BSD-3-Clause
 // Draws the library's icons into the folder given on the command line, so
 // that no binary pictures live in the sources.
 #include <QDir>

@@ -1,4 +1,6 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The CommonGUI developers
+# SPDX-License-Identifier: BSD-3-Clause
 """Writes the small tip pictures of the tests and the demo (standard library only).
 
     python3 tests/widgets/data/make_pictures.py
