@@ -12,10 +12,14 @@
 #include <QStandardPaths>
 #include <QTextStream>
 
+#include <atomic>
 #include <cstdio>
 
 namespace {
-DebugCrashHandler *s_currentHandler = nullptr;
+std::atomic<DebugCrashHandler *> s_currentHandler{ nullptr };
+// The handling type of the last handler once it is gone: messages of the
+// application's teardown still reach the console forms, never the log.
+std::atomic<int> s_typeAfterHandler{ DebugCrashHandler::DefaultHandling };
 QString s_sessionStamp;
 
 QString applicationDirectoryName()
@@ -33,6 +37,9 @@ DebugCrashHandler::DebugCrashHandler(QObject *parent)
 
 DebugCrashHandler::~DebugCrashHandler()
 {
+    DebugCrashHandler *self = this;
+    if (s_currentHandler.compare_exchange_strong(self, nullptr))
+        s_typeAfterHandler = m_type;
     // finish() has closed the log by now; free what it leaves behind.
     delete m_logStream;
     delete m_logFile;
@@ -56,6 +63,11 @@ void DebugCrashHandler::updateLogType(DebugHandlingType type)
 
 void DebugCrashHandler::initDebugLogfile()
 {
+    // The session has one log: opened again, it stays the same open file.
+    if (m_logFile && m_logFile->isOpen())
+        return;
+    delete m_logStream;
+    delete m_logFile;
     const QString dir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
             + QStringLiteral("/korvil/%1/").arg(applicationDirectoryName());
     QDir().mkpath(dir);
@@ -128,10 +140,8 @@ void printTimePrefix()
             QDateTime::currentDateTime().toString(QStringLiteral("hh:mm:ss.zzz")).toLatin1();
     fprintf(stderr, "Time: %s: ", time.constData());
 }
-}
 
-void DebugCrashHandler::printDebugOutput(QtMsgType, const QMessageLogContext &,
-                                         const QString &msg)
+void printShort(const QString &msg)
 {
     const QByteArray text = msg.toLocal8Bit();
     printTimePrefix();
@@ -139,8 +149,7 @@ void DebugCrashHandler::printDebugOutput(QtMsgType, const QMessageLogContext &,
     fflush(stderr);
 }
 
-void DebugCrashHandler::printDebugOutputDetailed(QtMsgType, const QMessageLogContext &context,
-                                                 const QString &msg)
+void printDetailed(const QMessageLogContext &context, const QString &msg)
 {
     const QByteArray text = msg.toLocal8Bit();
     printTimePrefix();
@@ -149,6 +158,19 @@ void DebugCrashHandler::printDebugOutputDetailed(QtMsgType, const QMessageLogCon
             context.file ? context.file : "", unsigned(context.line),
             context.function ? context.function : "");
     fflush(stderr);
+}
+}
+
+void DebugCrashHandler::printDebugOutput(QtMsgType, const QMessageLogContext &,
+                                         const QString &msg)
+{
+    printShort(msg);
+}
+
+void DebugCrashHandler::printDebugOutputDetailed(QtMsgType, const QMessageLogContext &context,
+                                                 const QString &msg)
+{
+    printDetailed(context, msg);
 }
 
 void DebugCrashHandler::finish()
@@ -163,6 +185,9 @@ void DebugCrashHandler::finish()
 void DebugCrashHandler::initFunctionTrace()
 {
     using namespace FunctionTrace;
+    // Switched on while on: the open file goes on, no second one is begun.
+    if (traceFile && traceFileOpen)
+        return;
     const QString name = applicationDirectoryName();
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QDir().mkpath(documents + QStringLiteral("/korvil/%1/").arg(name));
@@ -203,7 +228,15 @@ void DebugCrashHandler::setInstrumentFunctions(bool on)
 
 void messageHandler(QtMsgType type, const QMessageLogContext &context, const QString &msg)
 {
-    s_currentHandler->handleDebugOut(type, context, msg);
+    if (DebugCrashHandler *handler = s_currentHandler.load()) {
+        handler->handleDebugOut(type, context, msg);
+        return;
+    }
+    const int kind = s_typeAfterHandler.load();
+    if (kind & DebugCrashHandler::PrintOutput)
+        printShort(msg);
+    if (kind & DebugCrashHandler::PrintDetailed)
+        printDetailed(context, msg);
 }
 
 void noMessageOutput(QtMsgType, const QMessageLogContext &, const QString &)

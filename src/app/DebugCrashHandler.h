@@ -58,7 +58,8 @@ private:
 };
 
 // Forwards every message to the most recently constructed DebugCrashHandler.
-// Install it only after the application object exists.
+// Install it only after the application object exists. Once that handler is
+// gone, messages reach only the console forms it had switched on.
 COMMONGUI_EXPORT void messageHandler(QtMsgType type, const QMessageLogContext &context,
                                      const QString &msg);
 // Silences all Qt messages.

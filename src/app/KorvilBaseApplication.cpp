@@ -50,14 +50,16 @@ bool KorvilBaseApplication::notify(QObject *receiver, QEvent *event)
 {
     int code = 0;
     try {
-        if (m_processingTime)
-            m_eventTimer.start();
+        if (!m_processingTime)
+            return QApplication::notify(receiver, event);
+        // Taken before dispatch: the event may delete its receiver (and itself).
+        const QByteArray name = receiver->objectName().toLocal8Bit();
+        const int type = int(event->type());
+        m_eventTimer.start();
         const bool result = QApplication::notify(receiver, event);
-        if (m_processingTime && m_eventTimer.elapsed() > 10) {
-            qDebug("processing event type %d for object %s took %dms", int(event->type()),
-                   receiver->objectName().toLocal8Bit().constData(),
-                   int(m_eventTimer.elapsed()));
-        }
+        const qint64 elapsed = m_eventTimer.elapsed();
+        if (elapsed > 10)
+            qDebug("processing event type %d for object %s took %dms", type, name.constData(), int(elapsed));
         return result;
     } catch (const std::bad_alloc &e) {
         qWarning("bad_alloc exception: %s", e.what());
@@ -69,6 +71,11 @@ bool KorvilBaseApplication::notify(QObject *receiver, QEvent *event)
         qWarning("exception");
         code = 3;
     }
+    // A failure while the first one is being reported (its box runs an event
+    // loop) changes nothing: one release, one box, the first exit code.
+    if (m_failing)
+        return true;
+    m_failing = true;
     // Whatever escaped, the user sees the out-of-memory box: the reserve was
     // given back for it.
     releaseEmergencyMemory();
@@ -89,6 +96,10 @@ void KorvilBaseApplication::setProcessingTime(bool on)
 
 void KorvilBaseApplication::releaseEmergencyMemory()
 {
+    static bool released = false;
+    if (released)
+        return;
+    released = true;
     delete[] _emergencyMemory;
     if (m_stopFunction)
         m_stopFunction();

@@ -29,7 +29,7 @@ public:
     void initSettings(unsigned char kind);
     // When on, every event dispatch is timed and those over 10 ms are logged.
     void setProcessingTime(bool on);
-    // Must be called at most once: the reserve is not re-taken.
+    // Frees the reserve and runs the stop function, once per process; later calls do nothing.
     void releaseEmergencyMemory();
     // Runs when the reserve is released, before the error dialog.
     void setStopFunction(const std::function<void()> &stop);
@@ -42,5 +42,6 @@ private:
     DebugCrashHandler *m_debugHandler = nullptr;
     QElapsedTimer m_eventTimer;
     bool m_processingTime = false;
+    bool m_failing = false;
     std::function<void()> m_stopFunction;
 };

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPointer>
 #include <QUrl>
 
 const QMap<QString, QString> ManualHandler::mFileNameToDisplayName = {
@@ -41,7 +42,6 @@ void ManualHandler::createMenu()
 
 ManualHandler::~ManualHandler()
 {
-    qDeleteAll(m_entries);
     if (!m_menuHandedOut)
         delete manualsMenu;
 }
@@ -55,9 +55,8 @@ QMenu *ManualHandler::getManualsMenu()
 {
     if (!manualsMenu)
         createMenu();
+    // Entries belong to the menu: clearing deletes them.
     manualsMenu->clear();
-    qDeleteAll(m_entries);
-    m_entries.clear();
 
     // QDir reads an empty path as the working directory, which holds no manuals.
     const QFileInfoList entries = manualsPath.isEmpty()
@@ -66,11 +65,15 @@ QMenu *ManualHandler::getManualsMenu()
     for (const QFileInfo &entry : entries) {
         const QString baseName = entry.baseName();
         const QString title = mFileNameToDisplayName.value(baseName, baseName);
-        auto action = new QAction(title);
+        auto action = new QAction(title, manualsMenu);
         action->setData(entry.absoluteFilePath());
         connect(action, &QAction::triggered, this, &ManualHandler::actionTriggered);
+        // The menu may outlive the handler: the entry then opens its manual itself.
+        connect(action, &QAction::triggered, action, [action, alive = QPointer<ManualHandler>(this)] {
+            if (!alive)
+                openManual(action);
+        });
         manualsMenu->addAction(action);
-        m_entries.append(action);
     }
     if (manualsMenu->actions().isEmpty())
         return nullptr;
@@ -81,5 +84,10 @@ QMenu *ManualHandler::getManualsMenu()
 void ManualHandler::actionTriggered()
 {
     if (auto action = qobject_cast<QAction *>(sender()))
-        QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + action->data().toString()));
+        openManual(action);
+}
+
+void ManualHandler::openManual(const QAction *action)
+{
+    QDesktopServices::openUrl(QUrl(QStringLiteral("file:///") + action->data().toString()));
 }

@@ -20,7 +20,7 @@ class COMMONGUI_EXPORT ManualHandler : public QObject
 public:
     explicit ManualHandler(QObject *parent = nullptr);
     // Leaves a menu it has handed out alone: whoever inserted it into a menu
-    // bar frees it. Its entries go with the handler.
+    // bar frees it, and its entries, which keep working, with it.
     ~ManualHandler() override;
 
     void setManualsPath(const QString &path);
@@ -35,10 +35,9 @@ public Q_SLOTS:
 
 private:
     void createMenu();
+    static void openManual(const QAction *action);
 
     QString manualsPath;
     QMenu *manualsMenu;
-    // Entries have no parent; they go with the handler or the next refill.
-    QList<QAction *> m_entries;
     bool m_menuHandedOut = false;
 };

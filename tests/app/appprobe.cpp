@@ -15,34 +15,56 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <memory>
 #include <dlfcn.h>
 #include <new>
 #include <stdexcept>
 
 namespace {
 
+void spin(int microseconds)
+{
+    QElapsedTimer t;
+    t.start();
+    while (t.nsecsElapsed() < qint64(microseconds) * 1000) {
+    }
+}
+
 class Thrower : public QObject
 {
 public:
-    QString kind;
+    QStringList kinds;  // one per event, in turn
     int spinMicroseconds = 0;
 
     bool event(QEvent *e) override
     {
         if (e->type() != QEvent::User)
             return QObject::event(e);
+        const QString kind = kinds.isEmpty() ? QString() : kinds.takeFirst();
         if (kind == QLatin1String("badalloc"))
             throw std::bad_alloc();
         if (kind == QLatin1String("runtime"))
             throw std::runtime_error("probe failure");
         if (kind == QLatin1String("int"))
             throw 42;
-        QElapsedTimer t;
-        t.start();
-        while (t.nsecsElapsed() < qint64(spinMicroseconds) * 1000) {
-        }
+        spin(spinMicroseconds);
         return true;
     }
+};
+
+// Slow to go: its deferred deletion is a slow event whose receiver is gone after it.
+class Doomed : public QObject
+{
+public:
+    int spinMicroseconds = 0;
+    ~Doomed() override { spin(spinMicroseconds); }
+};
+
+// Speaks while it goes, after the application object is gone.
+class LateTalker : public QObject
+{
+public:
+    ~LateTalker() override { qWarning("late message"); }
 };
 
 // Marker functions the trace test resolves with addr2line.
@@ -65,6 +87,7 @@ int main(int argc, char **argv)
         if (qstrncmp(argv[i], "@name:", 6) == 0)
             name = QString::fromLocal8Bit(argv[i] + 6);
     }
+    std::unique_ptr<LateTalker> late;  // outlives the application object
     KorvilBaseApplication app(argc, argv, name, QStringLiteral("1.2.3"));
     qInstallMessageHandler(messageHandler);
     DebugCrashHandler *handler = app.debugCrashHandler();
@@ -102,10 +125,22 @@ int main(int argc, char **argv)
             app.initSettings(static_cast<unsigned char>(value.toInt()));
             printf("settings %d\n", Helper::lastSettingsKind());
         } else if (action == QLatin1String("throw")) {
-            thrower.kind = value;
+            // Several kinds: the later ones throw while the first failure's box is open.
+            thrower.kinds = value.split(QLatin1Char(','));
             app.setStopFunction([] { printf("stop function\n"); fflush(stdout); });
-            QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
+            for (int i = 0; i < thrower.kinds.size(); ++i)
+                QCoreApplication::postEvent(&thrower, new QEvent(QEvent::User));
             runLoop = true;
+        } else if (action == QLatin1String("slowdelete")) {
+            auto doomed = new Doomed;
+            doomed->setObjectName(QStringLiteral("doomed"));
+            doomed->spinMicroseconds = value.toInt();
+            app.setProcessingTime(true);
+            doomed->deleteLater();
+            QCoreApplication::sendPostedEvents(doomed, QEvent::DeferredDelete);
+            app.setProcessingTime(false);
+        } else if (action == QLatin1String("late")) {
+            late = std::make_unique<LateTalker>();
         } else if (action == QLatin1String("slow")) {
             app.setProcessingTime(true);
             thrower.spinMicroseconds = value.toInt();

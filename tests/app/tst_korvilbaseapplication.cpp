@@ -25,7 +25,11 @@ private slots:
     void exceptionsExit_data();
     void exceptionsExit();
     void slowEvents();
+    void slowEventDeletesReceiver();
+    void messageAfterApplication();
+    void logOpenedTwice();
     void traceFiles();
+    void traceOnTwice();
     void traceNeedsSwitch();
     void initSettingsForwards();
 
@@ -163,6 +167,9 @@ void tst_KorvilBaseApplication::exceptionsExit_data()
     QTest::newRow("bad_alloc") << "badalloc" << 1 << "bad_alloc exception: std::bad_alloc";
     QTest::newRow("std::exception") << "runtime" << 2 << "exception: probe failure";
     QTest::newRow("int") << "int" << 3 << "exception";
+    // Later failures while the first one's box is open change nothing.
+    QTest::newRow("bad_alloc, then another") << "badalloc,runtime" << 1 << "bad_alloc exception: std::bad_alloc";
+    QTest::newRow("int, then two more") << "int,badalloc,runtime" << 3 << "exception";
 }
 
 void tst_KorvilBaseApplication::exceptionsExit()
@@ -176,6 +183,7 @@ void tst_KorvilBaseApplication::exceptionsExit()
              qPrintable(r.err));
     // The stop function runs before the one dialog, whatever the exception.
     QVERIFY2(r.out.contains("stop function\nbox "), qPrintable(r.out));
+    QCOMPARE(r.out.count("stop function"), 1);
     QCOMPARE(r.out.count("box "), 1);
     const QString expected = "box Out of memory|The application run out of memory.\\n"
                              "This could occure when handling a large amount of data.\\n"
@@ -200,6 +208,51 @@ void tst_KorvilBaseApplication::slowEvents()
         QVERIFY2(ms >= 11, qPrintable(r.err));
     QVERIFY2(logged.contains(11) || logged.last() > 11, qPrintable(r.err));
     QVERIFY2(logged.size() <= 3, qPrintable(r.err));
+}
+
+void tst_KorvilBaseApplication::slowEventDeletesReceiver()
+{
+    // The receiver's name is read before the event deletes it.
+    const Run r = run({ "--with-debug", "@slowdelete:30000" });
+    QCOMPARE(r.exitCode, 0);
+    QVERIFY2(r.err.contains(QRegularExpression("processing event type 52 for object doomed took \\d+ms")),
+             qPrintable(r.err));
+}
+
+void tst_KorvilBaseApplication::messageAfterApplication()
+{
+    // The handler is gone with the application: the message still reaches the console.
+    const Run r = run({ "--with-debug", "@late" });
+    QCOMPARE(r.exitCode, 0);
+    QVERIFY2(r.err.contains(QRegularExpression("Time: [\\d:.]+: late message\n")), qPrintable(r.err));
+}
+
+void tst_KorvilBaseApplication::logOpenedTwice()
+{
+    QDir(documents()).removeRecursively();
+    const Run r = run({ "--debug-log", "@msg:first", "@settype:8", "@msg:second" });
+    QCOMPARE(r.exitCode, 0);
+    const QString dir = documents() + "/korvil/ProbeTool";
+    const QStringList logs = filesIn(dir, "*");
+    QCOMPARE(logs.size(), 1);
+    QFile file(dir + '/' + logs.first());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    QCOMPARE(text.count("\t\tfirst\n"), 2);
+    QCOMPARE(text.count("\t\tsecond\n"), 2);
+}
+
+void tst_KorvilBaseApplication::traceOnTwice()
+{
+    QDir(documents()).removeRecursively();
+    const Run r = run({ "--instrument-functions", "@trace:on", "@trace:on", "@call:1", "@trace:off" });
+    QCOMPARE(r.exitCode, 0);
+    const QString dir = documents() + "/korvil/ProbeTool";
+    // One file, closed with everything in it.
+    QCOMPARE(filesIn(dir, "*.efl"), QStringList({ "functionsLog_0.efl" }));
+    QFile file(dir + "/functionsLog_0.efl");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().count("0x0x") >= 6);
 }
 
 void tst_KorvilBaseApplication::traceFiles()

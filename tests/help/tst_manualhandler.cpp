@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QtTest>
 
+#include <memory>
+
 class tst_ManualHandler : public QObject
 {
     Q_OBJECT
@@ -20,6 +22,7 @@ private slots:
     void noManualsGivesNoMenu_data();
     void noManualsGivesNoMenu();
     void refillDoesNotDuplicate();
+    void triggerOpensThePdf_data();
     void triggerOpensThePdf();
     void titleTableShape();
 
@@ -135,23 +138,38 @@ void tst_ManualHandler::refillDoesNotDuplicate()
     delete third;
 }
 
+void tst_ManualHandler::triggerOpensThePdf_data()
+{
+    QTest::addColumn<bool>("handlerGone");
+    QTest::newRow("handler alive") << false;
+    // A host may keep the menu it was handed after the handler is gone.
+    QTest::newRow("handler gone") << true;
+}
+
 void tst_ManualHandler::triggerOpensThePdf()
 {
+    QFETCH(bool, handlerGone);
     QTemporaryDir dir;
     touch(dir.filePath(QStringLiteral("manual_tarvet_en.pdf")));
-    ManualHandler handler;
-    handler.setManualsPath(dir.path());
-    QMenu *menu = handler.getManualsMenu();
+    auto handler = std::make_unique<ManualHandler>();
+    handler->setManualsPath(dir.path());
+    QPointer<QMenu> menu = handler->getManualsMenu();
     QVERIFY(menu);
+    if (handlerGone)
+        handler.reset();
+    QVERIFY(menu);
+    QCOMPARE(entryTitles(menu), QStringList { "User Manual (en)" });
+    QPointer<QAction> entry = menu->actions().first();
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
     m_opened.clear();
 
-    menu->actions().first()->trigger();
+    entry->trigger();
     QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
 
-    // "file:///" before an absolute path: the viewer gets four slashes.
+    // "file:///" before an absolute path: the viewer gets four slashes; opened once.
     QCOMPARE(m_opened, QStringList { "file:////" + dir.path().mid(1) + "/manual_tarvet_en.pdf" });
     delete menu;
+    QVERIFY(!entry);  // the entries go with the menu
 }
 
 void tst_ManualHandler::titleTableShape()
