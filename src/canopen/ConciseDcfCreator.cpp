@@ -3,6 +3,7 @@
 #include "ConciseDcfCreator.h"
 
 #include "CANopenTypes.h"
+#include "DcfStorage_p.h"
 #include "IniDocument_p.h"
 
 #include <QMap>
@@ -353,7 +354,7 @@ bool ConciseDcfCreator::writeConciseDcf(const QString &outputName)
 
     IniDocument sheet;
     QString error;
-    if (!sheet.load(m_fileName, &error)) {
+    if (!readDocument(m_fileName, &sheet, &error)) {
         m_errors << tr("Cannot read %1: %2").arg(m_fileName, error);
         return false;
     }

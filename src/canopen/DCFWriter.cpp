@@ -100,17 +100,42 @@ public:
     std::vector<std::unique_ptr<DcfStorage>> storages;
     DcfStorage *storage = nullptr;
     SectionIndex sections;
+    quint64 seen = 0;  // the storage revision the sections were taken from
+
+    // Another writer on the same file, or a save that took in a change on
+    // disk, may have changed the sections.
+    const SectionIndex &currentSections()
+    {
+        if (storage->revision() != seen) {
+            sections.reset(storage->childGroups());
+            seen = storage->revision();
+        }
+        return sections;
+    }
+
+    void write(const QString &path, const QVariant &value, const QString &section)
+    {
+        const bool current = storage->revision() == seen;
+        storage->setValue(path, value);
+        if (current) {
+            sections.add(section);
+            seen = storage->revision();
+        }
+    }
 
     void set(const QString &section, const QString &key, const QVariant &value)
     {
-        storage->setValue(section + QLatin1Char('/') + key, value);
-        sections.add(section);
+        write(section + QLatin1Char('/') + key, value, section);
     }
 
     void removeSection(const QString &section)
     {
+        const bool current = storage->revision() == seen;
         storage->remove(section);
-        sections.remove(section);
+        if (current) {
+            sections.remove(section);
+            seen = storage->revision();
+        }
     }
 };
 
@@ -137,7 +162,8 @@ bool DCFWriter::setDCFFile(const QString &fileName)
         return key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
             || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive);
     });
-    d->sections.reset(d->storage->childGroups());
+    d->seen = 0;
+    d->currentSections();
     return true;
 }
 
@@ -236,10 +262,8 @@ bool DCFWriter::delSub(unsigned short index, unsigned char subIndex)
 void DCFWriter::updateOtherSettings(QString group, QString key, QString value)
 {
     const QString path = group + QLatin1Char('/') + key;
-    d->storage->setValue(path, value);
     const QStringList parts = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-    if (parts.size() > 1)
-        d->sections.add(parts.first());
+    d->write(path, value, parts.size() > 1 ? parts.first() : QString());
 }
 
 QString DCFWriter::existingSection(unsigned short index, unsigned char subIndex) const
@@ -249,14 +273,15 @@ QString DCFWriter::existingSection(unsigned short index, unsigned char subIndex)
     // Exact spellings first, then the first spelling regardless of case. Both
     // sub spellings share one entry of the index, so one lookup serves them.
     const QString lower = tr("%1sub%2").arg(idx, sub);
-    const SectionIndex::Spellings *subSpellings = d->sections.find(lower);
+    const SectionIndex &sections = d->currentSections();
+    const SectionIndex::Spellings *subSpellings = sections.find(lower);
     if (subSpellings && (subSpellings->has(lower)
                          || subSpellings->has(idx.toUpper() + tr("sub%2").arg(sub.toUpper()))))
         return subSpellings->first;
     if (subIndex != 0)
         return subSpellings ? subSpellings->first : QString();
     // A VAR object has no sub sections: its value lives in the index section.
-    const SectionIndex::Spellings *varSpellings = d->sections.find(idx);
+    const SectionIndex::Spellings *varSpellings = sections.find(idx);
     return varSpellings ? varSpellings->first : QString();
 }
 
@@ -268,9 +293,9 @@ bool DCFWriter::setParameterValue(unsigned short index, unsigned char subIndex, 
         return true;
     // The section exists: no need to record it again.
     if (!value.isEmpty())
-        d->storage->setValue(section + QLatin1String("/ParameterValue"), value);
+        d->write(section + QLatin1String("/ParameterValue"), value, section);
     if (!denotation.isEmpty())
-        d->storage->setValue(section + QLatin1String("/Denotation"), denotation);
+        d->write(section + QLatin1String("/Denotation"), denotation, section);
     return true;
 }
 
@@ -278,26 +303,31 @@ bool DCFWriter::setDenotation(unsigned short index, unsigned char subIndex, QStr
 {
     const QString section = existingSection(index, subIndex);
     if (!section.isEmpty() && !denotation.isEmpty())
-        d->storage->setValue(section + QLatin1String("/Denotation"), denotation);
+        d->write(section + QLatin1String("/Denotation"), denotation, section);
     return true;
 }
 
 bool DCFWriter::existIndex(unsigned short index)
 {
-    return d->sections.find(indexName(index)) != nullptr;
+    return d->currentSections().find(indexName(index)) != nullptr;
 }
 
 bool DCFWriter::existSub(unsigned short index, unsigned char subIndex)
 {
-    return d->sections.find(subName(index, subIndex)) != nullptr;
+    return d->currentSections().find(subName(index, subIndex)) != nullptr;
 }
 
 void DCFWriter::updateOptionalObjects(QList<unsigned short> indices)
 {
     const QString prefix = optionalObjects + QLatin1Char('/');
     const quint16 stale = quint16(d->storage->value(prefix + QLatin1String("SupportedObjects"), 0).toInt());
+    // One pass for all stale keys: a removal each would scan the file each time.
+    QStringList staleKeys;
+    staleKeys.reserve(stale);
     for (int i = 1; i <= stale; ++i)
-        d->storage->remove(prefix + QString::number(i));
+        staleKeys << prefix + QString::number(i);
+    if (!staleKeys.isEmpty())
+        d->storage->removeAll(staleKeys);
 
     QList<unsigned short> sorted = indices;
     std::sort(sorted.begin(), sorted.end());

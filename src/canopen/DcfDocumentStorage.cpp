@@ -3,67 +3,270 @@
 #include "DcfStorage_p.h"
 #include "IniDocument_p.h"
 
-#include <QDebug>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QLockFile>
+#include <QMutex>
+#include <QSaveFile>
+
+#include <vector>
 
 namespace {
+
+// One edit of this process, kept until it is saved so that it can be applied
+// again to a text someone else changed on disk.
+struct Edit
+{
+    QStringList paths;  // one for a value, any number for removals
+    QString value;
+    bool set = false;
+};
+
+class SharedFile
+{
+public:
+    explicit SharedFile(const QString &path)
+        : m_path(path)
+    {
+        QFile file(m_path);
+        m_readable = file.open(QIODevice::ReadOnly);
+        if (!m_readable) {
+            qWarning("Cannot read data sheet %s: %s", qPrintable(m_path), qPrintable(file.errorString()));
+            return;
+        }
+        m_disk = file.readAll();
+        document.parse(m_disk);
+    }
+
+    ~SharedFile() { save(); }
+
+    QString path() const { return m_path; }
+    bool readable() const { return m_readable; }
+
+    void apply(const Edit &edit)
+    {
+        bool changed = true;
+        if (edit.set)
+            document.setValue(edit.paths.first(), edit.value);
+        else
+            changed = document.removeAll(edit.paths);
+        if (changed)
+            record(edit);
+    }
+
+    // An edit already made to the text.
+    void record(const Edit &edit)
+    {
+        m_edits.push_back(edit);
+        ++revision;
+        if (!m_saveQueued && QCoreApplication::instance()) {
+            // As QSettings does: saved on the next pass of the event loop.
+            m_saveQueued = true;
+            QMetaObject::invokeMethod(&m_context, [this] {
+                QMutexLocker locker(&mutex);
+                m_saveQueued = false;
+                save();
+            }, Qt::QueuedConnection);
+        }
+    }
+
+    // Takes in what someone else wrote since the text was last read or written,
+    // with this process's edits applied on top again.
+    void takeInDisk()
+    {
+        if (!m_readable)
+            return;
+        QFile file(m_path);
+        if (!file.open(QIODevice::ReadOnly))
+            return;  // gone or unreadable: what is held here is all there is
+        const QByteArray bytes = file.readAll();
+        if (bytes == m_disk)
+            return;
+        IniDocument fresh;
+        fresh.parse(bytes);
+        for (const Edit &edit : m_edits) {
+            if (edit.set)
+                fresh.setValue(edit.paths.first(), edit.value);
+            else
+                fresh.removeAll(edit.paths);
+        }
+        document = std::move(fresh);
+        m_disk = bytes;
+        ++revision;
+    }
+
+    bool save()
+    {
+        // An unreadable file is never overwritten with what little we know of it.
+        if (m_edits.empty() || !m_readable)
+            return m_readable;
+        QLockFile lock(m_path + QLatin1String(".lock"));
+        if (!lock.lock()) {
+            qWarning("Cannot lock data sheet %s", qPrintable(m_path));
+            return false;
+        }
+        takeInDisk();
+        const QByteArray bytes = document.toBytes();
+        QSaveFile file(m_path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+            qWarning("Cannot write data sheet %s: %s", qPrintable(m_path), qPrintable(file.errorString()));
+            return false;
+        }
+        m_disk = bytes;
+        m_edits.clear();
+        return true;
+    }
+
+    mutable QMutex mutex;
+    IniDocument document;
+    quint64 revision = 1;
+
+private:
+    QString m_path;
+    QByteArray m_disk;  // the file as last read or written
+    std::vector<Edit> m_edits;
+    bool m_readable = false;
+    bool m_saveQueued = false;
+    QObject m_context;  // takes the queued save; a save still queued goes with it
+};
+
+struct Registry
+{
+    QMutex mutex;
+    QHash<QString, std::weak_ptr<SharedFile>> files;
+};
+
+Registry &registry()
+{
+    static Registry *const instance = new Registry;
+    return *instance;
+}
+
+// Symbolic links lead to one file, and a later change of directory changes nothing.
+QString canonicalPath(const QString &fileName)
+{
+    const QFileInfo info(fileName);
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
+std::shared_ptr<SharedFile> findFile(const QString &path)
+{
+    Registry &r = registry();
+    QMutexLocker locker(&r.mutex);
+    return r.files.value(path).lock();
+}
+
+std::shared_ptr<SharedFile> openFile(const QString &path)
+{
+    Registry &r = registry();
+    QMutexLocker locker(&r.mutex);
+    std::shared_ptr<SharedFile> file = r.files.value(path).lock();
+    if (file)
+        return file;
+    file = std::shared_ptr<SharedFile>(new SharedFile(path), [](SharedFile *gone) {
+        {
+            QMutexLocker locker(&gone->mutex);
+            gone->save();
+        }
+        Registry &r = registry();
+        {
+            QMutexLocker locker(&r.mutex);
+            const auto it = r.files.constFind(gone->path());
+            if (it != r.files.constEnd() && it->expired())
+                r.files.erase(it);
+        }
+        delete gone;
+    });
+    r.files.insert(path, file);
+    return file;
+}
 
 class DocumentStorage final : public DcfStorage
 {
 public:
-    explicit DocumentStorage(const QString &fileName)
-        : m_fileName(fileName)
+    explicit DocumentStorage(std::shared_ptr<SharedFile> file)
+        : m_file(std::move(file))
     {
-        QString error;
-        m_readable = m_document.load(fileName, &error);
-        if (!m_readable)
-            qWarning("Cannot read data sheet %s: %s", qPrintable(fileName), qPrintable(error));
     }
 
-    QStringList allKeys() const override { return m_document.allKeys(); }
-    QStringList childGroups() const override { return m_document.childGroups(); }
+    QStringList allKeys() const override
+    {
+        QMutexLocker locker(&m_file->mutex);
+        return m_file->document.allKeys();
+    }
+    QStringList childGroups() const override
+    {
+        QMutexLocker locker(&m_file->mutex);
+        return m_file->document.childGroups();
+    }
     QVariant value(const QString &path, const QVariant &defaultValue) const override
     {
-        return m_document.variantValue(path, defaultValue);
+        QMutexLocker locker(&m_file->mutex);
+        return m_file->document.variantValue(path, defaultValue);
     }
     void setValue(const QString &path, const QVariant &value) override
     {
-        m_document.setValue(path, value.toString());
-        m_modified = true;
+        QMutexLocker locker(&m_file->mutex);
+        m_file->apply({ { path }, value.toString(), true });
     }
     void remove(const QString &path) override
     {
-        if (m_document.remove(path))
-            m_modified = true;
+        QMutexLocker locker(&m_file->mutex);
+        m_file->apply({ { path }, QString(), false });
+    }
+    void removeAll(const QStringList &paths) override
+    {
+        QMutexLocker locker(&m_file->mutex);
+        m_file->apply({ paths, QString(), false });
     }
     void removeKeysIf(const std::function<bool(const QString &)> &accept) override
     {
-        if (m_document.removeKeysIf(accept))
-            m_modified = true;
+        QMutexLocker locker(&m_file->mutex);
+        QStringList listed;
+        if (m_file->document.removeKeysIf(accept, &listed))
+            m_file->record({ listed, QString(), false });
     }
     bool sync() override
     {
-        // An unreadable file is never overwritten with what little we know of it.
-        if (!m_modified || !m_readable)
-            return m_readable;
-        QString error;
-        if (!m_document.save(m_fileName, &error)) {
-            qWarning("Cannot write data sheet %s: %s", qPrintable(m_fileName), qPrintable(error));
-            return false;
-        }
-        m_modified = false;
-        return true;
+        QMutexLocker locker(&m_file->mutex);
+        return m_file->save();
+    }
+    quint64 revision() const override
+    {
+        QMutexLocker locker(&m_file->mutex);
+        return m_file->revision;
     }
 
 private:
-    QString m_fileName;
-    IniDocument m_document;
-    bool m_readable = false;
-    bool m_modified = false;
+    std::shared_ptr<SharedFile> m_file;
 };
 
 }
 
 std::unique_ptr<DcfStorage> createDocumentStorage(const QString &fileName)
 {
-    return std::make_unique<DocumentStorage>(fileName);
+    std::shared_ptr<SharedFile> file = openFile(canonicalPath(fileName));
+    {
+        // Opened again: what changed on disk in the meantime is taken in, as a
+        // new QSettings on a file already open in the process does.
+        QMutexLocker locker(&file->mutex);
+        file->takeInDisk();
+    }
+    return std::make_unique<DocumentStorage>(std::move(file));
+}
+
+bool readDocument(const QString &fileName, IniDocument *document, QString *error)
+{
+    const std::shared_ptr<SharedFile> file = findFile(canonicalPath(fileName));
+    if (!file)
+        return document->load(fileName, error);
+    QMutexLocker locker(&file->mutex);
+    file->takeInDisk();
+    *document = file->document;
+    if (!file->readable() && error)
+        *error = QCoreApplication::translate("DCFWriter", "the file could not be read");
+    return file->readable();
 }

@@ -70,8 +70,9 @@ QString IniDocument::unescapedKey(const QByteArray &raw)
             ++first;
             digits = 4;
         }
+        // Signed, as QSettings reads it: "%-1" is U+FFFF.
         bool ok = false;
-        const ushort code = first + digits <= to ? raw.mid(first, digits).toUShort(&ok, 16) : 0;
+        const ushort code = first + digits <= to ? ushort(raw.mid(first, digits).toInt(&ok, 16)) : 0;
         if (!ok) {
             result += QLatin1Char('%');
             ++i;
@@ -214,8 +215,11 @@ QVariant IniDocument::parsedValue(const QByteArray &raw)
                     atEnd = true;
                     break;
                 }
-                if (hex && !isHex(str[i]))
-                    continue;  // "\x" without digits stands for nothing
+                if (hex && !isHex(str[i])) {
+                    // "\x" without digits stands for nothing, but keeps the blanks before it.
+                    chopLimit = result.size();
+                    continue;
+                }
                 quint16 code = hex ? 0 : quint16(next - '0');
                 while (i < to && (hex ? isHex(str[i]) : (str[i] >= '0' && str[i] <= '7'))) {
                     const char d = str[i++];
@@ -232,7 +236,8 @@ QVariant IniDocument::parsedValue(const QByteArray &raw)
             }
             if ((next == '\n' || next == '\r') && i < to && (str[i] == '\n' || str[i] == '\r') && str[i] != next)
                 ++i;
-            // Any other escaped character is dropped.
+            // Any other escaped character is dropped; the blanks before it stay.
+            chopLimit = result.size();
         } else if (ch == '"') {
             ++i;
             quoted = true;
@@ -538,17 +543,47 @@ int IniDocument::findLine(const QString &path, int *sectionBlock) const
                     *sectionBlock = b;
                 if (block.removed || block.liveKeys == 0)
                     continue;
-                forEachLine(block, [&](int id) {
-                    const Line &line = m_lines[size_t(id)];
-                    // Later blocks of one name, and longer section names, override.
-                    if (line.key && !line.removed && keyEquals(line, key))
-                        found = id;
-                });
+                // Later blocks of one name, and longer section names, override.
+                const int id = lastLineOf(block, key);
+                if (id >= 0)
+                    found = id;
             }
         }
         slash = path.indexOf(QLatin1Char('/'), slash + 1);
     } while (slash >= 0);
     return found;
+}
+
+int IniDocument::lastLineOf(const Block &block, const QString &key) const
+{
+    int found = -1;
+    if (block.count + block.inserted.size() <= 16) {
+        forEachLine(block, [&](int id) {
+            const Line &line = m_lines[size_t(id)];
+            if (line.key && !line.removed && keyEquals(line, key))
+                found = id;
+        });
+        return found;
+    }
+    if (!block.indexed) {
+        block.keyIndex.clear();
+        forEachLine(block, [&](int id) {
+            const Line &line = m_lines[size_t(id)];
+            if (line.key)
+                block.keyIndex[keyOf(line)].append(id);
+        });
+        block.indexed = true;
+    }
+    const auto it = block.keyIndex.constFind(key);
+    if (it == block.keyIndex.constEnd())
+        return -1;
+    // Key lines after the insertion point were removed before anything was
+    // added: appending added lines keeps the order among live ones.
+    for (int i = it->size() - 1; i >= 0; --i) {
+        if (!m_lines[size_t(it->at(i))].removed)
+            return it->at(i);
+    }
+    return -1;
 }
 
 void IniDocument::removeLine(int id)
@@ -575,8 +610,9 @@ QByteArray IniDocument::headerText(const QString &name)
 {
     if (name.isEmpty())
         return "[General]";
+    // QSettings writes any spelling of this name so; it reads back as "General".
     if (name.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
-        return "[%" + name.toLatin1() + ']';
+        return "[%General]";
     return '[' + escapedKey(name) + ']';
 }
 
@@ -811,13 +847,15 @@ void IniDocument::setValue(const QString &rawPath, const QString &value)
     line.valueEnd = line.length - m_eol.size();
     line.block = blockId;
     m_lines.push_back(line);
-    block.inserted.append(int(m_lines.size()) - 1);
+    const int id = int(m_lines.size()) - 1;
+    block.inserted.append(id);
     ++block.liveKeys;
+    if (block.indexed)
+        block.keyIndex[key].append(id);
 }
 
-bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept)
+bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accept, QStringList *removed)
 {
-    bool any = false;
     QString path;
     QStringList listed;
     for (size_t b = 0; b < m_blocks.size(); ++b) {
@@ -843,8 +881,52 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
             listed << path;
         });
     }
-    for (const QString &p : qAsConst(listed))
-        any = remove(p) || any;
+    if (removed)
+        *removed = listed;
+    return removeAll(listed);
+}
+
+bool IniDocument::removeAll(const QStringList &rawPaths)
+{
+    QSet<QString> paths;
+    for (const QString &raw : rawPaths) {
+        const QString path = normalizedPath(raw);
+        if (!path.isEmpty())
+            paths.insert(path);
+    }
+    if (paths.isEmpty())
+        return false;
+    // A path goes with everything under it: the path itself or any of its
+    // leading parts listed.
+    auto covered = [&paths](const QString &full) {
+        if (paths.contains(full))
+            return true;
+        for (int slash = full.indexOf(QLatin1Char('/')); slash >= 0; slash = full.indexOf(QLatin1Char('/'), slash + 1)) {
+            if (paths.contains(full.left(slash)))
+                return true;
+        }
+        return false;
+    };
+    bool any = false;
+    for (size_t b = 0; b < m_blocks.size(); ++b) {
+        const Block &block = m_blocks[b];
+        if (block.removed)
+            continue;
+        if (!block.prefix.isEmpty() && block.header >= 0 && covered(block.name)) {
+            any = any || block.liveKeys > 0;
+            removeBlock(int(b));
+            continue;
+        }
+        if (block.liveKeys == 0)
+            continue;
+        forEachLine(block, [&](int id) {
+            const Line &line = m_lines[size_t(id)];
+            if (line.key && !line.removed && covered(block.prefix + keyOf(line))) {
+                removeLine(id);
+                any = true;
+            }
+        });
+    }
     return any;
 }
 

@@ -38,8 +38,10 @@ public:
     // A key, or a whole group with all its keys; true if anything went.
     bool remove(const QString &path);
     // Removes every key whose path the predicate accepts, as removing each path
-    // in turn would; true if any went.
-    bool removeKeysIf(const std::function<bool(const QString &)> &accept);
+    // in turn would; true if any went. The paths listed go to `removed`.
+    bool removeKeysIf(const std::function<bool(const QString &)> &accept, QStringList *removed = nullptr);
+    // As remove() for each path, in one pass over the text.
+    bool removeAll(const QStringList &paths);
 
     static QByteArray escapedKey(const QString &key);
     static QByteArray escapedValue(const QString &value);
@@ -78,6 +80,10 @@ private:
         QVector<int> inserted;
         bool removed = false;
         bool added = false;
+        // Line ids by key in the order the lines are read, built on the first
+        // lookup in a long block: added keys cost no scan of the section.
+        mutable QHash<QString, QVector<int>> keyIndex;
+        mutable bool indexed = false;
     };
 
     template<typename F>
@@ -94,6 +100,8 @@ private:
 
     static QByteArray headerText(const QString &name);
     QVariant lineValue(int id) const;
+    // The last live line of the key in the block, or -1.
+    int lastLineOf(const Block &block, const QString &key) const;
     QByteArray rawLine(int id) const;
     QByteArray rawKey(const Line &line) const;
     QString keyOf(const Line &line) const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The CommonGUI developers
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ConciseDcfCreator.h"
+#include "TestFiles.h"
 
 #include <QtTest>
 
@@ -23,24 +24,13 @@ private slots:
     void readerRejects();
 
 private:
-    QString writeSheet(const QByteArray &text);
-    QTemporaryDir m_dir;
-    int m_files = 0;
+    QString writeSheet(const QByteArray &text) { return m_dir.write(text); }
+    TestSupport::SheetFolder m_dir;
 };
 
 void tst_ConciseDcfCreator::initTestCase()
 {
     QVERIFY2(m_dir.isValid(), qPrintable(m_dir.errorString()));
-}
-
-QString tst_ConciseDcfCreator::writeSheet(const QByteArray &text)
-{
-    const QString name = m_dir.filePath(QStringLiteral("sheet%1.dcf").arg(++m_files));
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return QString();
-    file.write(text);
-    return name;
 }
 
 using Indices = QVector<unsigned short>;

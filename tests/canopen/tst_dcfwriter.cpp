@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The CommonGUI developers
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DCFWriter.h"
+#include "TestFiles.h"
 
 #include <QtTest>
 
@@ -40,14 +41,12 @@ private slots:
     void oddLayouts();
 
 private:
-    QString writeSheet(const QByteArray &text);
-    static QByteArray readAll(const QString &fileName);
+    QString writeSheet(const QByteArray &text) { return m_dir->write(text); }
     static QStringList keysOf(const QString &fileName);
     static QString valueOf(const QString &fileName, const QString &key);
 
     QTemporaryDir m_home;
-    std::unique_ptr<QTemporaryDir> m_dir;
-    int m_files = 0;
+    std::unique_ptr<TestSupport::SheetFolder> m_dir;
 };
 
 void tst_DCFWriter::initTestCase()
@@ -55,25 +54,8 @@ void tst_DCFWriter::initTestCase()
     QVERIFY(m_home.isValid());
     qputenv("HOME", m_home.path().toLocal8Bit());
     QStandardPaths::setTestModeEnabled(true);
-    m_dir = std::make_unique<QTemporaryDir>();
+    m_dir = std::make_unique<TestSupport::SheetFolder>();
     QVERIFY2(m_dir->isValid(), qPrintable(m_dir->errorString()));
-}
-
-QString tst_DCFWriter::writeSheet(const QByteArray &text)
-{
-    const QString name = m_dir->filePath(QStringLiteral("sheet%1.dcf").arg(++m_files));
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return QString();
-    file.write(text);
-    return name;
-}
-
-QByteArray tst_DCFWriter::readAll(const QString &fileName)
-{
-    QFile file(fileName);
-    file.open(QIODevice::ReadOnly);
-    return file.readAll();
 }
 
 QStringList tst_DCFWriter::keysOf(const QString &fileName)
@@ -273,7 +255,7 @@ void tst_DCFWriter::loadDropsValues()
     }
     QCOMPARE(keysOf(file), (QStringList{ "1000/ParameterName", "1a00sub1/DefaultValue",
                                          "DeviceInfo/VendorName" }));
-    const QByteArray text = readAll(file).toLower();
+    const QByteArray text = TestSupport::readFile(file).toLower();
     QVERIFY(!text.contains("parametervalue"));
     QVERIFY(!text.contains("denotation"));
 }
@@ -382,7 +364,7 @@ void tst_DCFWriter::commissioning()
         writer.updateOtherSettings("FileInfo", "FileName", "node127.dcf");
         writer.writeFile();
     }
-    const QString text = QString::fromUtf8(readAll(file));
+    const QString text = QString::fromUtf8(TestSupport::readFile(file));
     QVERIFY2(text.contains("[DeviceComissioning]"), qPrintable(text));
     QVERIFY(text.contains("Baudrate=500"));
     QVERIFY(text.contains("NodeID=127"));
@@ -472,7 +454,7 @@ void tst_DCFWriter::untouchedRoundTrip()
     DCFWriter writer;
     QVERIFY(writer.setDCFFile(file));
     QVERIFY(writer.writeFile());
-    QCOMPARE(readAll(file), expected);
+    QCOMPARE(TestSupport::readFile(file), expected);
 }
 
 static const QByteArray editSheet = "; header comment\r\n[FileInfo]\r\nFileName=dev.eds\r\n\r\n"
@@ -496,7 +478,7 @@ void tst_DCFWriter::editedRoundTrip()
         QVERIFY(writer.writeFile());
     }
     // Only edited, added and removed lines differ.
-    QCOMPARE(readAll(ours), QByteArray("; header comment\r\n[FileInfo]\r\nFileName=node5.dcf\r\n\r\n"
+    QCOMPARE(TestSupport::readFile(ours), QByteArray("; header comment\r\n[FileInfo]\r\nFileName=node5.dcf\r\n\r\n"
                                        "[1a00sub1]\r\nParameterName=Mapped object 1\r\n; keep me\r\n"
                                        "DefaultValue=0x60000108\r\nParameterValue=0x60000208\r\nDenotation=Speed\r\n\r\n"
                                        "[1A00sub2]\r\nParameterName=Mapped object 2\r\nParameterValue=2\r\n\r\n"
@@ -551,7 +533,7 @@ void tst_DCFWriter::valueEscaping()
         QVERIFY(writer.setDCFFile(file));
         writer.setParameterValue(0x2000, 0, value, "");
     }
-    QCOMPARE(readAll(file), "[2000]\nParameterName=x\n" + line + "\n");
+    QCOMPARE(TestSupport::readFile(file), "[2000]\nParameterName=x\n" + line + "\n");
     QCOMPARE(valueOf(file, "2000/ParameterValue"), value);
 }
 
@@ -600,7 +582,7 @@ void tst_DCFWriter::corpusRoundTrip()
             QVERIFY(writer.setDCFFile(file));
             QVERIFY(writer.writeFile());
         }
-        QVERIFY2(readAll(file) == withoutValues(original), qPrintable(name));
+        QVERIFY2(TestSupport::readFile(file) == withoutValues(original), qPrintable(name));
     }
 }
 
@@ -680,7 +662,7 @@ void tst_DCFWriter::oddLayouts()
         writer.setParameterValue(0x1A00, 1, "7", "");
         writer.updateOtherSettings("FileInfo", "X", "3");
     }
-    QCOMPARE(readAll(file), expected);
+    QCOMPARE(TestSupport::readFile(file), expected);
     QCOMPARE(valueOf(file, key), value);
     QCOMPARE(valueOf(file, "FileInfo/X"), QStringLiteral("3"));
 }
