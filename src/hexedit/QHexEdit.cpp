@@ -2,26 +2,25 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "QHexEdit.h"
 
+#include "HexFindBar_p.h"
 #include "QHexEditPrivate.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QUndoStack>
 
-#include <limits>
-
-// Cursor positions count nibbles in an int: twice the size must still fit.
-static const int s_largestSize = (std::numeric_limits<int>::max() / 2) & ~15;
+#include <cmath>
 
 QHexEdit::QHexEdit(QWidget *parent)
     : QAbstractScrollArea(parent)
     , d(new QHexEditPrivate(this))
 {
-    setViewport(d);
+    viewport()->setObjectName(QStringLiteral("qt_hexedit_view"));
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setCursor(Qt::IBeamCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -37,259 +36,278 @@ QHexEdit::QHexEdit(QWidget *parent)
     d->updateLayout();
 }
 
-QHexEdit::~QHexEdit() = default;
+QHexEdit::~QHexEdit()
+{
+    delete d;
+}
 
 QByteArray QHexEdit::data() const
 {
-    return d->m_buffer.data();
+    return d->buffer.data();
 }
 
 void QHexEdit::setData(const QByteArray &data)
 {
-    // Unless the host fixed the count, every byte handed over is shown, also
-    // beyond the buffer's default of 0xffffff (a 16 MiB image has one more).
-    if (!d->m_bytesEnabledSet && data.size() > d->m_buffer.bytesEnabled())
-        d->m_buffer.setBytesEnabled(std::min(data.size(), s_largestSize));
-    else if (data.size() > s_largestSize && d->m_buffer.bytesEnabled() > s_largestSize)
-        d->m_buffer.setBytesEnabled(s_largestSize);
     d->setData(data);
 }
 
 int QHexEdit::size() const
 {
-    return d->m_buffer.size();
+    return d->size();
 }
 
 int QHexEdit::addressOffset() const
 {
-    return d->m_buffer.addressOffset();
+    return d->buffer.addressOffset();
 }
 
 void QHexEdit::setAddressOffset(int offset)
 {
-    d->m_buffer.setAddressOffset(offset);
+    QHexEditPrivate::ChangeScope scope(d);
+    d->buffer.setAddressOffset(offset);
     d->updateLayout();
-    const int address = cursorPosition() + offset;
-    if (address != d->m_lastAddress) {
-        d->m_lastAddress = address;
-        Q_EMIT currentAddressChanged(address);
-    }
 }
 
 int QHexEdit::addressWidth() const
 {
-    return d->m_buffer.addressWidth();
+    return d->buffer.addressWidth();
 }
 
 void QHexEdit::setAddressWidth(int width)
 {
-    d->m_buffer.setAddressWidth(width);
+    d->buffer.setAddressWidth(width);
     d->updateLayout();
 }
 
 bool QHexEdit::addressArea() const
 {
-    return d->m_addressArea;
+    return d->addressArea;
 }
 
 void QHexEdit::setAddressArea(bool visible)
 {
-    d->m_addressArea = visible;
+    d->addressArea = visible;
     d->updateLayout();
 }
 
 bool QHexEdit::hexArea() const
 {
-    return d->m_hexArea;
+    return d->hexArea;
 }
 
 void QHexEdit::setHexArea(bool visible)
 {
-    d->m_hexArea = visible;
+    d->hexArea = visible;
     if (!visible)
-        d->m_asciiFocus = true;
+        d->cursor.ascii = true;
+    d->setCursor(d->cursor);
     d->updateLayout();
 }
 
 bool QHexEdit::asciiArea() const
 {
-    return d->m_asciiArea;
+    return d->asciiArea;
 }
 
 void QHexEdit::setAsciiArea(bool visible)
 {
-    d->m_asciiArea = visible;
+    d->asciiArea = visible;
     if (!visible)
-        d->m_asciiFocus = false;
+        d->cursor.ascii = false;
     d->updateLayout();
 }
 
 QColor QHexEdit::addressAreaColor() const
 {
-    return d->m_addressAreaColor;
+    return d->addressBackground();
 }
 
 void QHexEdit::setAddressAreaColor(const QColor &color)
 {
-    d->m_addressAreaColor = color;
-    d->update();
+    d->addressAreaColor = color;
+    viewport()->update();
 }
 
 bool QHexEdit::highlighting() const
 {
-    return d->m_highlighting;
+    return d->highlighting;
 }
 
 void QHexEdit::setHighlighting(bool on)
 {
-    d->m_highlighting = on;
-    d->update();
+    d->highlighting = on;
+    viewport()->update();
 }
 
 QColor QHexEdit::highlightingColor() const
 {
-    return d->m_highlightingColor;
+    return d->changedBackground();
 }
 
 void QHexEdit::setHighlightingColor(const QColor &color)
 {
-    d->m_highlightingColor = color;
-    d->update();
+    d->highlightingColor = color;
+    viewport()->update();
 }
 
 QColor QHexEdit::selectionColor() const
 {
-    return d->m_selectionColor;
+    return d->selectionBackground();
 }
 
 void QHexEdit::setSelectionColor(const QColor &color)
 {
-    d->m_selectionColor = color;
-    d->update();
+    d->selectionColor = color;
+    viewport()->update();
 }
 
 bool QHexEdit::overwriteMode() const
 {
-    return d->m_overwrite;
+    return d->overwrite;
 }
 
 void QHexEdit::setOverwriteMode(bool overwrite)
 {
-    if (d->m_overwrite == overwrite)
+    if (d->overwrite == overwrite)
         return;
-    d->m_overwrite = overwrite;
-    d->update();
+    d->overwrite = overwrite;
+    viewport()->update();
     Q_EMIT overwriteModeChanged(overwrite);
 }
 
 bool QHexEdit::isReadOnly() const
 {
-    return d->m_readOnly;
+    return d->readOnly;
 }
 
 void QHexEdit::setReadOnly(bool readOnly)
 {
-    d->m_readOnly = readOnly;
-    d->update();
+    d->readOnly = readOnly;
+    viewport()->update();
 }
 
 int QHexEdit::cursorPosition() const
 {
-    return d->m_cursor / 2;
+    return d->cursor.byte();
 }
 
 void QHexEdit::setCursorPosition(int position)
 {
-    d->setCursorNibble(2 * position, false);
+    d->moveCursor(2 * position, false);
 }
 
 QRect QHexEdit::cursorRect() const
 {
-    return d->cursorCell();
+    return d->cursorRect();
 }
 
 int QHexEdit::maxSize() const
 {
-    return d->m_buffer.maxSize();
+    return d->effectiveMaxSize();
 }
 
 void QHexEdit::setMaxSize(int size)
 {
-    d->m_buffer.setMaximumSize(size);
+    d->maxSize = size;
+    d->maxSizeSet = true;
+    d->buffer.setMaximumSize(size);
 }
 
 int QHexEdit::bytesEnabled() const
 {
-    return d->m_buffer.bytesEnabled();
+    return d->buffer.bytesEnabled();
 }
 
 void QHexEdit::setBytesEnabled(int count)
 {
     // Padding is configuration, not an edit: nothing to undo.
-    d->m_bytesEnabledSet = true;
-    d->m_buffer.setBytesEnabled(std::min(count, s_largestSize));
+    QHexEditPrivate::ChangeScope scope(d);
+    d->bytesEnabledSet = true;
+    d->buffer.setBytesEnabled(std::min(count, hexLargestSize));
+    d->cursor.clamp(d->size());
     d->updateLayout();
-    const int size = d->m_buffer.size();
-    d->m_cursor = std::min(d->m_cursor, 2 * size);
-    d->setSelectionRange(std::min(d->m_selBegin, size), std::min(d->m_selEnd, size), d->m_selAnchor);
     Q_EMIT dataChanged();
-    if (size != d->m_lastSize) {
-        d->m_lastSize = size;
-        Q_EMIT currentSizeChanged(size);
-    }
 }
 
 bool QHexEdit::hasSelection() const
 {
-    return d->m_selBegin != d->m_selEnd;
+    return d->cursor.hasSelection();
 }
 
 int QHexEdit::selectionStart() const
 {
-    return d->m_selBegin;
+    return d->cursor.selectionStart();
 }
 
 int QHexEdit::selectionEnd() const
 {
-    return d->m_selEnd;
+    return d->cursor.selectionEnd();
 }
 
 void QHexEdit::setSelection(int start, int length)
 {
-    const qint64 end = qint64(start) + std::max(length, 0);
-    d->setSelectionRange(start, int(std::min<qint64>(end, size())), start);
+    HexCursor next = d->cursor;
+    next.select(start, int(std::min<qint64>(qint64(start) + std::max(length, 0), size())), size());
+    d->setCursor(next);
 }
 
 QByteArray QHexEdit::selectedData() const
 {
-    return d->m_buffer.data().mid(d->m_selBegin, d->m_selEnd - d->m_selBegin);
+    return d->buffer.data().mid(selectionStart(), selectionEnd() - selectionStart());
 }
 
 QString QHexEdit::selectionToReadableString() const
 {
     if (!hasSelection())
         return QString();
-    return d->m_buffer.toRedableString(d->m_selBegin, d->m_selEnd);
+    return d->buffer.toRedableString(selectionStart(), selectionEnd());
 }
 
 QString QHexEdit::toReadableString() const
 {
-    return d->m_buffer.toRedableString(0, -1);
+    return d->buffer.toRedableString(0, -1);
 }
 
 bool QHexEdit::isByteChanged(int index) const
 {
-    return d->m_buffer.dataChanged(index);
+    return d->buffer.dataChanged(index);
 }
 
 bool QHexEdit::isModified() const
 {
-    return !d->m_undoStack->isClean();
+    return !d->undoStack->isClean();
 }
 
 QUndoStack *QHexEdit::undoStack() const
 {
-    return d->m_undoStack;
+    return d->undoStack;
+}
+
+int QHexEdit::indexOf(const QByteArray &bytes, int from) const
+{
+    return d->indexOf(bytes, from);
+}
+
+int QHexEdit::lastIndexOf(const QByteArray &bytes, int from) const
+{
+    return d->lastIndexOf(bytes, from);
+}
+
+bool QHexEdit::find(const QByteArray &bytes, FindFlags flags)
+{
+    return d->find(bytes, flags);
+}
+
+bool QHexEdit::isFindBarEnabled() const
+{
+    return d->findBarEnabled;
+}
+
+void QHexEdit::setFindBarEnabled(bool enabled)
+{
+    d->findBarEnabled = enabled;
+    if (!enabled && d->bar)
+        d->bar->hide();
 }
 
 bool QHexEdit::insert(int index, const QByteArray &bytes)
@@ -310,56 +328,50 @@ bool QHexEdit::replace(int index, const QByteArray &bytes)
 QSize QHexEdit::sizeHint() const
 {
     const int frame = 2 * frameWidth();
-    return QSize(d->m_contentWidth + frame + verticalScrollBar()->sizeHint().width(),
-                 20 * d->m_lineHeight + frame);
+    return QSize(int(std::ceil(d->layout.contentWidth())) + frame + verticalScrollBar()->sizeHint().width(),
+                 int(20 * d->layout.rowHeight()) + frame);
 }
 
 QSize QHexEdit::minimumSizeHint() const
 {
     const int frame = 2 * frameWidth();
-    return QSize(20 * d->m_charWidth + frame + verticalScrollBar()->sizeHint().width(),
-                 3 * d->m_lineHeight + frame);
+    return QSize(int(20 * d->layout.cellWidth()) + frame + verticalScrollBar()->sizeHint().width(),
+                 int(3 * d->layout.rowHeight()) + frame);
 }
 
 void QHexEdit::undo()
 {
-    d->undo();
+    d->perform(HexAction::Undo);
 }
 
 void QHexEdit::redo()
 {
-    d->redo();
+    d->perform(HexAction::Redo);
 }
 
 void QHexEdit::selectAll()
 {
-    d->m_cursor = 2 * size();
-    d->setSelectionRange(0, size(), 0);
-    d->ensureCursorVisible();
-    d->update();
+    d->perform(HexAction::SelectAll);
 }
 
 void QHexEdit::deselect()
 {
-    d->clearSelection();
+    d->moveCursor(d->cursor.nibble, false);
 }
 
 void QHexEdit::copy()
 {
-    d->copy();
+    d->copy(QClipboard::Clipboard);
 }
 
 void QHexEdit::cut()
 {
-    if (d->m_readOnly || !hasSelection())
-        return;
-    d->copy();
-    d->deleteSelectionOrByte(false);
+    d->perform(HexAction::Cut);
 }
 
 void QHexEdit::paste()
 {
-    d->paste();
+    d->paste(QClipboard::Clipboard);
 }
 
 void QHexEdit::ensureCursorVisible()
@@ -367,19 +379,44 @@ void QHexEdit::ensureCursorVisible()
     d->ensureCursorVisible();
 }
 
+void QHexEdit::showFindBar()
+{
+    if (d->findBarEnabled)
+        d->findBar()->open(HexFindBar::Find);
+}
+
+void QHexEdit::showGoToBar()
+{
+    if (d->findBarEnabled)
+        d->findBar()->open(HexFindBar::GoTo);
+}
+
+bool QHexEdit::goToAddress(const QString &text)
+{
+    return d->goToAddress(text);
+}
+
 bool QHexEdit::event(QEvent *event)
 {
-    // Keys the editor acts on win over window shortcuts (Delete, Ctrl+Z, ...).
-    if (event->type() == QEvent::ShortcutOverride && d->handlesShortcut(static_cast<QKeyEvent *>(event))) {
+    // Keys the editor acts on win over window shortcuts (Delete, Ctrl+Z, ...),
+    // and Tab switches columns instead of moving the focus.
+    if (event->type() == QEvent::ShortcutOverride && d->claimsKey(static_cast<QKeyEvent *>(event))) {
         event->accept();
         return true;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        auto key = static_cast<QKeyEvent *>(event);
+        if ((key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) && d->claimsKey(key)) {
+            d->keyPress(key);
+            return true;
+        }
     }
     return QAbstractScrollArea::event(event);
 }
 
 void QHexEdit::paintEvent(QPaintEvent *event)
 {
-    QPainter painter(d);
+    QPainter painter(viewport());
     d->paint(painter, event->rect());
 }
 
@@ -387,6 +424,19 @@ void QHexEdit::resizeEvent(QResizeEvent *event)
 {
     QAbstractScrollArea::resizeEvent(event);
     d->updateScrollBars();
+    d->placeFindBar();
+    if (d->scrollPending)
+        d->ensureCursorVisible();
+}
+
+void QHexEdit::showEvent(QShowEvent *event)
+{
+    QAbstractScrollArea::showEvent(event);
+    // The screen, and with it the device pixel ratio, is known now.
+    if (!qFuzzyCompare(viewport()->devicePixelRatioF(), d->layout.options().devicePixelRatio))
+        d->updateLayout();
+    if (d->scrollPending)
+        d->ensureCursorVisible();
 }
 
 void QHexEdit::keyPressEvent(QKeyEvent *event)
@@ -404,6 +454,11 @@ void QHexEdit::mouseMoveEvent(QMouseEvent *event)
     d->mouseMove(event);
 }
 
+void QHexEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    d->mouseRelease(event);
+}
+
 void QHexEdit::mouseDoubleClickEvent(QMouseEvent *event)
 {
     d->mousePress(event);
@@ -412,41 +467,31 @@ void QHexEdit::mouseDoubleClickEvent(QMouseEvent *event)
 void QHexEdit::focusInEvent(QFocusEvent *event)
 {
     QAbstractScrollArea::focusInEvent(event);
-    d->focusChanged(true);
+    d->restartBlink();
+    viewport()->update();
 }
 
 void QHexEdit::focusOutEvent(QFocusEvent *event)
 {
     QAbstractScrollArea::focusOutEvent(event);
-    d->focusChanged(false);
+    d->restartBlink();
+    viewport()->update();
 }
 
 void QHexEdit::changeEvent(QEvent *event)
 {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange
+        || event->type() == QEvent::ScreenChangeInternal)
         d->updateLayout();
 }
 
 void QHexEdit::contextMenuEvent(QContextMenuEvent *event)
 {
-    QMenu menu(this);
-    const bool editable = !d->m_readOnly;
-    menu.addAction(tr("&Undo"), this, &QHexEdit::undo, QKeySequence::Undo)
-        ->setEnabled(editable && d->m_undoStack->canUndo());
-    menu.addAction(tr("&Redo"), this, &QHexEdit::redo, QKeySequence::Redo)
-        ->setEnabled(editable && d->m_undoStack->canRedo());
-    menu.addSeparator();
-    menu.addAction(tr("Cu&t"), this, &QHexEdit::cut, QKeySequence::Cut)->setEnabled(editable && hasSelection());
-    menu.addAction(tr("&Copy"), this, &QHexEdit::copy, QKeySequence::Copy)->setEnabled(hasSelection());
-    menu.addAction(tr("&Paste"), this, &QHexEdit::paste, QKeySequence::Paste)->setEnabled(editable);
-    menu.addSeparator();
-    menu.addAction(tr("Select &All"), this, &QHexEdit::selectAll, QKeySequence::SelectAll)
-        ->setEnabled(size() > 0);
-    menu.exec(event->globalPos());
+    d->contextMenu(event->globalPos());
 }
 
 void QHexEdit::scrollContentsBy(int, int)
 {
-    d->update();
+    viewport()->update();
 }

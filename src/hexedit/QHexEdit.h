@@ -12,10 +12,10 @@ class QHexEditPrivate;
 class QUndoStack;
 
 // An editable hex/ASCII view of a byte array: address, hex and character
-// columns, nibble-wise typing, overwrite and insert mode, selection, clipboard
-// and undo. Every edit, also through insert()/remove()/replace(), is an undo
-// command on undoStack(). Only the visible rows are laid out and painted, so
-// images of many megabytes stay responsive.
+// columns, nibble-wise typing, overwrite and insert mode, selection, clipboard,
+// find and go to. Every edit, also through insert()/remove()/replace(), is an
+// undo command on undoStack(). Only the visible rows are laid out and painted,
+// so images of hundreds of megabytes stay responsive.
 class COMMONGUI_EXPORT QHexEdit : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -35,8 +35,17 @@ class COMMONGUI_EXPORT QHexEdit : public QAbstractScrollArea
     Q_PROPERTY(int maxSize READ maxSize WRITE setMaxSize)
     Q_PROPERTY(int bytesEnabled READ bytesEnabled WRITE setBytesEnabled)
     Q_PROPERTY(bool modified READ isModified)
+    Q_PROPERTY(bool findBarEnabled READ isFindBarEnabled WRITE setFindBarEnabled)
 
 public:
+    enum FindFlag {
+        FindBackward = 0x1,
+        FindWrapAround = 0x2,
+        FindCaseInsensitive = 0x4,  // ASCII letters only
+    };
+    Q_DECLARE_FLAGS(FindFlags, FindFlag)
+    Q_FLAG(FindFlags)
+
     explicit QHexEdit(QWidget *parent = nullptr);
     ~QHexEdit() override;
 
@@ -102,6 +111,18 @@ public:
     // Owned by the editor; cleared by setData().
     QUndoStack *undoStack() const;
 
+    // QByteArray::indexOf() and lastIndexOf() over the shown bytes (size()).
+    int indexOf(const QByteArray &bytes, int from = 0) const;
+    int lastIndexOf(const QByteArray &bytes, int from = -1) const;
+    // Searches from the end of the selection (or the cursor), backwards from its
+    // start; selects the match with the cursor at its end and scrolls to it.
+    // Without a match the selection stays and the result is false.
+    bool find(const QByteArray &bytes, QHexEdit::FindFlags flags = QHexEdit::FindFlags());
+
+    // The built-in find bar (Ctrl+F, F3, Shift+F3) and go-to bar (Ctrl+G); on by default.
+    bool isFindBarEnabled() const;
+    void setFindBarEnabled(bool enabled);
+
     // Programmatic edits, undoable like typing; false when out of range or past maxSize().
     bool insert(int index, const QByteArray &bytes);
     bool remove(int index, int length);
@@ -122,6 +143,11 @@ public Q_SLOTS:
     void cut();
     void paste();
     void ensureCursorVisible();
+    void showFindBar();
+    void showGoToBar();
+    // An address as typed in the go-to bar: hex ("1f00", "0x1f00") or decimal
+    // ("#7936"), absolute or relative to the cursor with a leading + or -.
+    bool goToAddress(const QString &text);
 
 Q_SIGNALS:
     // The cursor's address: its byte index plus addressOffset().
@@ -132,6 +158,8 @@ Q_SIGNALS:
     void selectionChanged();
     void undoAvailable(bool available);
     void redoAvailable(bool available);
+    // Typed or pasted input that was not taken, with a short reason for a status line.
+    void inputRefused(const QString &reason);
 
 protected:
     bool event(QEvent *event) override;
@@ -140,14 +168,18 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
-    QHexEditPrivate *d;  // the viewport, owned by the scroll area
+    QHexEditPrivate *d;
     friend class QHexEditPrivate;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(QHexEdit::FindFlags)

@@ -18,7 +18,9 @@ void typeKeys(QWidget *widget, const QString &script)
     static const QHash<QString, Qt::Key> names = {
         { "Right", Qt::Key_Right }, { "Left", Qt::Key_Left }, { "Up", Qt::Key_Up }, { "Down", Qt::Key_Down },
         { "Home", Qt::Key_Home }, { "End", Qt::Key_End }, { "Ins", Qt::Key_Insert },
-        { "Del", Qt::Key_Delete }, { "Bksp", Qt::Key_Backspace },
+        { "Del", Qt::Key_Delete }, { "Bksp", Qt::Key_Backspace }, { "Tab", Qt::Key_Tab },
+        { "Backtab", Qt::Key_Backtab }, { "F3", Qt::Key_F3 }, { "Esc", Qt::Key_Escape },
+        { "Ret", Qt::Key_Return },
     };
     for (QString token : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         Qt::KeyboardModifiers mods;
@@ -95,8 +97,14 @@ private slots:
                                                          << "00000000000000010000";
         QTest::newRow("home after end") << three << true << "End Home e" << QByteArray("\xe1\x22\x33", 3) << "100";
         QTest::newRow("left stops at the start") << three << true << "Left Left d" << QByteArray("\xd1\x22\x33", 3) << "100";
-        QTest::newRow("typing over a selection types at the cursor") << three << true << "S-Right S-Right 0"
-                                                                     << QByteArray("\x11\x22\x03", 3) << "001";
+        QTest::newRow("typing over a selection overwrites from its start") << three << true << "S-Right S-Right 0"
+                                                                           << QByteArray("\x01\x22\x33", 3) << "100";
+        QTest::newRow("typing over a selection replaces it") << three << false << "Right Right S-Right S-Right a b"
+                                                             << QByteArray("\x11\xab", 2) << "01";
+        QTest::newRow("typing a character over a selection") << three << false << "Tab S-Right S-Right Z"
+                                                             << QByteArray("Z\x33", 2) << "10";
+        QTest::newRow("tab switches to the characters") << three << true << "Right Tab A Tab f"
+                                                        << QByteArray("A\xf2\x33", 3) << "110";
     }
     void editSequence()
     {
@@ -354,11 +362,10 @@ private slots:
         QHexEdit edit;
         QVERIFY(shown(edit, QByteArray(size, '\x5a')));
         QCOMPARE(edit.size(), size);
+        typeKeys(&edit, QStringLiteral("C-End"));
         const int visible = edit.verticalScrollBar()->pageStep();
         QVERIFY(visible > 1);
         QCOMPARE(edit.verticalScrollBar()->maximum(), size / 16 + 1 - visible);
-
-        typeKeys(&edit, QStringLiteral("C-End"));
         QCOMPARE(edit.verticalScrollBar()->value(), edit.verticalScrollBar()->maximum());
         typeKeys(&edit, QStringLiteral("Up 1"));
         QCOMPARE(edit.data().at(size - 16), '\x1a');
