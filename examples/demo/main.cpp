@@ -41,9 +41,9 @@ int main(int argc, char **argv)
                                   QStringLiteral("code"));
     parser.addOption(lang);
     parser.process(app);
-    CommonGUITranslator translator;
-    if (parser.isSet(lang) && translator.loadLanguage(parser.value(lang)))
-        app.installTranslator(&translator);
+    // The user's locale picks the language (the library's catalogue and Qt's own);
+    // --lang overrides it.
+    CommonGUITranslator::installTranslations(&app, parser.isSet(lang) ? QLocale(parser.value(lang)) : QLocale());
 
     DemoWindow window(app.arguments());
     if (parser.isSet(screenshots)) {
