@@ -11,7 +11,7 @@ rm -rf "$out"
 mkdir -p "$out/commongui"
 tar -C "$src" --exclude='./build*' --exclude=./.git -cf - . | tar -C "$out/commongui" -xf -
 # ccache's compiler links make a rebuild cheap when the cache is warm.
-[ -d /usr/lib/ccache ] && export PATH="/usr/lib/ccache:$PATH"
+[ -d /usr/lib/ccache ] && export PATH="/usr/lib/ccache:$PATH" CCACHE_BASEDIR="$out"
 (cd "$out/commongui" && DEB_BUILD_OPTIONS="parallel=2 nocheck" dpkg-buildpackage -b -uc -us >"$out/build.log" 2>&1) \
     || { tail -40 "$out/build.log"; exit 1; }
 ls "$out"/*.deb

@@ -26,9 +26,8 @@ int main(int argc, char **argv)
     app.setApplicationVersion(QStringLiteral("3.1.0"));
     QApplication::setStyle(new KorvilAppStyle);
 
-    CommonGUITranslator translator;
-    if (translator.loadLanguage(QStringLiteral("de")))
-        app.installTranslator(&translator);
+    // The user's locale picks the library's catalogue and Qt's own.
+    CommonGUITranslator::installTranslations(&app);
 
     QMainWindow window;
     const QString appDir = QCoreApplication::applicationDirPath();
