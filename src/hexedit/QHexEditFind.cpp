@@ -92,8 +92,13 @@ int QHexEditPrivate::indexOf(const QByteArray &bytes, int from, bool caseInsensi
         return from;
     if (bytes.size() > 1 && (from > size || bytes.size() + from > size))
         return -1;
-    if (from < 0)
-        from = std::max(from + size, 0);
+    if (from < 0) {
+        from += size;
+        // Longer patterns may start before the data as long as they would end in it.
+        if (bytes.size() > 1 && from + bytes.size() < 0)
+            return -1;
+        from = std::max(from, 0);
+    }
     return int(searchForward(buffer.data().constData(), size, bytes, from, caseInsensitive));
 }
 

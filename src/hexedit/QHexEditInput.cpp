@@ -57,16 +57,17 @@ const KeyBinding s_bindings[] = {
 
 HexAction QHexEditPrivate::actionFor(QKeyEvent *event) const
 {
+    const int key = event->key();
+    const Qt::KeyboardModifiers mods = event->modifiers() & ~Qt::KeypadModifier;
+    // Before the table: some desktops bind Ctrl+G to find next too.
+    if (key == Qt::Key_G && mods == Qt::ControlModifier)
+        return HexAction::GoTo;
     for (const KeyBinding &binding : s_bindings) {
         if (event->matches(binding.key))
             return binding.action;
     }
-    const int key = event->key();
-    const Qt::KeyboardModifiers mods = event->modifiers() & ~Qt::KeypadModifier;
     if (key == Qt::Key_Insert && mods == Qt::NoModifier)
         return HexAction::ToggleOverwrite;
-    if (key == Qt::Key_G && mods == Qt::ControlModifier)
-        return HexAction::GoTo;
     if ((key == Qt::Key_Tab && mods == Qt::NoModifier) || key == Qt::Key_Backtab)
         return HexAction::SwitchColumn;
     // Keys of the tables above on platforms that bind them differently.
