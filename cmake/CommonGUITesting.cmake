@@ -12,7 +12,7 @@ set(COMMONGUI_TEST_ENVIRONMENT
 function(commongui_add_test name)
     cmake_parse_arguments(arg "" "LABEL" "SOURCES;LIBS" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE CommonGUI::CommonGUI Qt5::Test commongui_testsupport ${arg_LIBS})
+    target_link_libraries(${name} PRIVATE CommonGUI::CommonGUI Qt::Test commongui_testsupport ${arg_LIBS})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS "${arg_LABEL}"
         ENVIRONMENT "${COMMONGUI_TEST_ENVIRONMENT}"
