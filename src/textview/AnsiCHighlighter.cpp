@@ -47,13 +47,16 @@ AnsiCHighlighter::AnsiCHighlighter(QTextDocument *parent)
     multiLineCommentFormat = colourFormat(Qt::darkYellow);
     commentStartExpression = QRegularExpression(QStringLiteral("/\\*"));
     commentEndExpression = QRegularExpression(QStringLiteral("\\*/"));
+
+    scanner.reset(new RuleScanner(highlightingRules));
 }
 
 AnsiCHighlighter::~AnsiCHighlighter() = default;
 
 void AnsiCHighlighter::highlightBlock(const QString &text)
 {
-    applyRules(highlightingRules, text,
-               [this](int start, int count, const QTextCharFormat &format) { setFormat(start, count, format); });
+    scanner->highlight(text, [this](int start, int count, const QTextCharFormat &format) {
+        setFormat(start, count, format);
+    });
     setCurrentBlockState(0);
 }

@@ -9,7 +9,10 @@
 #include <QTextCharFormat>
 #include <QVector>
 
+#include <memory>
+
 class QTextDocument;
+namespace CommonGUIPrivate { class RuleScanner; }
 
 // Rule-based colouring of C sources and headers.
 class COMMONGUI_EXPORT AnsiCHighlighter : public QSyntaxHighlighter
@@ -30,6 +33,8 @@ private:
         QTextCharFormat format;
     };
     QVector<HighlightingRule> highlightingRules;
+    // Applies highlightingRules with the same outcome, at a fraction of the cost.
+    std::unique_ptr<CommonGUIPrivate::RuleScanner> scanner;
 
     QTextCharFormat keywordFormat;
     QTextCharFormat classFormat;

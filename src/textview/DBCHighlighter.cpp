@@ -33,12 +33,15 @@ DBCHighlighter::DBCHighlighter(QTextDocument *parent)
 
     singleLineCommentFormat = colourFormat(Qt::darkYellow);
     highlightingRules.append({ QRegularExpression(QStringLiteral("^#.*")), singleLineCommentFormat });
+
+    scanner.reset(new RuleScanner(highlightingRules));
 }
 
 DBCHighlighter::~DBCHighlighter() = default;
 
 void DBCHighlighter::highlightBlock(const QString &text)
 {
-    applyRules(highlightingRules, text,
-               [this](int start, int count, const QTextCharFormat &format) { setFormat(start, count, format); });
+    scanner->highlight(text, [this](int start, int count, const QTextCharFormat &format) {
+        setFormat(start, count, format);
+    });
 }

@@ -37,12 +37,15 @@ EdsHighlighter::EdsHighlighter(QTextDocument *parent)
 
     sectionFormat = colourFormat(Qt::red);
     highlightingRules.append({ QRegularExpression(QStringLiteral("\\[.*\\]")), sectionFormat });
+
+    scanner.reset(new RuleScanner(highlightingRules));
 }
 
 EdsHighlighter::~EdsHighlighter() = default;
 
 void EdsHighlighter::highlightBlock(const QString &text)
 {
-    applyRules(highlightingRules, text,
-               [this](int start, int count, const QTextCharFormat &format) { setFormat(start, count, format); });
+    scanner->highlight(text, [this](int start, int count, const QTextCharFormat &format) {
+        setFormat(start, count, format);
+    });
 }

@@ -30,13 +30,16 @@ PlcHighlighter::PlcHighlighter(QTextDocument *parent)
     multiLineCommentFormat = colourFormat(Qt::darkYellow);
     commentStartExpression = QRegularExpression(QStringLiteral("/(*"));
     commentEndExpression = QRegularExpression(QStringLiteral("*)"));
+
+    scanner.reset(new RuleScanner(highlightingRules));
 }
 
 PlcHighlighter::~PlcHighlighter() = default;
 
 void PlcHighlighter::highlightBlock(const QString &text)
 {
-    applyRules(highlightingRules, text,
-               [this](int start, int count, const QTextCharFormat &format) { setFormat(start, count, format); });
+    scanner->highlight(text, [this](int start, int count, const QTextCharFormat &format) {
+        setFormat(start, count, format);
+    });
     setCurrentBlockState(0);
 }
