@@ -37,10 +37,11 @@ FileViewerDialog::FileViewerDialog(QString filePath, QWidget *parent)
     if (QFileInfo(filePath).isReadable() && file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         QTextStream stream(&file);
         stream.setCodec("UTF-8");
-        ui->txtViewer->setText(stream.readAll());
+        // Always plain: setText would render a file that looks like HTML (a DOCTYPE, a leading tag).
+        ui->txtViewer->setPlainText(stream.readAll());
         file.close();
     } else {
-        ui->txtViewer->setText(tr("Error %1 is not readable.").arg(filePath));
+        ui->txtViewer->setPlainText(tr("Error %1 is not readable.").arg(filePath));
     }
 
     ui->txtViewer->setFont(QFont(QStringLiteral("Courier 13")));
@@ -113,7 +114,7 @@ void FileViewerDialog::timerElapsed()
     // A failed open leaves the view empty.
     const QByteArray bytes = file.isOpen() ? file.readAll() : QByteArray();
     // Text ends at the first zero byte.
-    ui->txtViewer->setText(QString::fromUtf8(bytes.constData()));
+    ui->txtViewer->setPlainText(QString::fromUtf8(bytes.constData()));
     file.close();
 }
 

@@ -30,6 +30,8 @@ private slots:
     void title();
     void highlighterBySuffix_data();
     void highlighterBySuffix();
+    void exactText_data();
+    void exactText();
     void reloadAfterChange_data();
     void reloadAfterChange();
     void everyNotificationReloads();
@@ -78,6 +80,7 @@ void tst_FileViewerDialog::highlighterBySuffix_data()
     QTest::addColumn<QString>("expected");
     // Unreadable paths show an error text, highlighter set up all the same.
     QTest::newRow("missing file") << "missing/file.c" << "AnsiCHighlighter";
+    QTest::newRow("missing file, tags in its path") << "missing/<b>x</b>.c" << "AnsiCHighlighter";
     QTest::newRow("folder") << "folder.dbc" << "DBCHighlighter";
     QTest::newRow("c") << "name.c" << "AnsiCHighlighter";
     QTest::newRow("h") << "name.h" << "AnsiCHighlighter";
@@ -105,6 +108,40 @@ void tst_FileViewerDialog::highlighterBySuffix()
     QCOMPARE(highlighterOf(dialog), expected);
     QCOMPARE(viewer(dialog)->toPlainText(),
              readable ? QString("int main(void);\n") : QString("Error %1 is not readable.").arg(path));
+}
+
+void tst_FileViewerDialog::exactText_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    // Texts that a rich-text guess would take for HTML and render.
+    QTest::newRow("xml with a DOCTYPE")
+        << "page.xml"
+        << QByteArray("<?xml version=\"1.0\"?>\n<!DOCTYPE article PUBLIC \"-//OASIS//DTD DocBook XML V4.5//EN\"\n"
+                      "  \"http://www.oasis-open.org/docbook/xml/4.5/docbookx.dtd\">\n"
+                      "<article><title>Node &amp; bus</title><para>Text <emphasis>here</emphasis></para></article>\n");
+    QTest::newRow("txt whose first line is a tag")
+        << "notes.txt" << QByteArray("<b>VAR_EXTERNAL</b>\n  x : INT;\n<br>END_VAR &lt;\n");
+    QTest::newRow("dcf whose first line is a tag")
+        << "node.dcf" << QByteArray("<html>\n[1000]\nParameterName=<i>Device type</i>\n");
+    QTest::newRow("file without a suffix, html body")
+        << "README" << QByteArray("<html><body><p>one</p>\n<p>two</p></body></html>\n");
+}
+
+void tst_FileViewerDialog::exactText()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    const QString path = write(m_dir.filePath(name), bytes);
+    FileViewerDialog dialog(path);
+    QCOMPARE(viewer(dialog)->toPlainText(), QString::fromUtf8(bytes));
+
+    const QByteArray changed = bytes + "<p>added</p>\n";
+    QVERIFY(!write(path, changed).isEmpty());
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "timerElapsed"));
+    QCOMPARE(viewer(dialog)->toPlainText(), QString::fromUtf8(changed));
+    dialog.setTextSize(14);
+    QCOMPARE(viewer(dialog)->toPlainText(), QString::fromUtf8(changed));
 }
 
 void tst_FileViewerDialog::reloadAfterChange_data()
