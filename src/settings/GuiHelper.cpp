@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QSpinBox>
@@ -319,4 +320,38 @@ bool GuiHelper::setComboboxValue(QComboBox *combo, QVariant value, int *index)
     if (index)
         *index = combo->count();
     return false;
+}
+
+namespace {
+const QString geometryKey = QStringLiteral("_windowGeometry");
+const QString stateKey = QStringLiteral("_windowState");
+}
+
+void GuiHelper::saveWindowState(QWidget *window, QString group, QString fileName, QSettings *settings)
+{
+    if (!window)
+        return;
+    Store store(fileName, settings);
+    store->beginGroup(group);
+    store->setValue(geometryKey, window->saveGeometry());
+    if (auto main = qobject_cast<QMainWindow *>(window))
+        store->setValue(stateKey, main->saveState());
+    store->endGroup();
+    store->sync();
+}
+
+bool GuiHelper::restoreWindowState(QWidget *window, QString group, QString fileName,
+                                   QSettings *settings)
+{
+    if (!window)
+        return false;
+    Store store(fileName, settings);
+    store->beginGroup(group);
+    const QByteArray geometry = store->value(geometryKey).toByteArray();
+    const QByteArray state = store->value(stateKey).toByteArray();
+    store->endGroup();
+    bool restored = !geometry.isEmpty() && window->restoreGeometry(geometry);
+    if (auto main = qobject_cast<QMainWindow *>(window); main && !state.isEmpty())
+        restored = main->restoreState(state) || restored;
+    return restored;
 }

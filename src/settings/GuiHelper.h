@@ -53,4 +53,12 @@ public:
     // Selects the first item whose Qt::UserRole data equals `value`. Without a match
     // the current item stays and *index receives the item count, not -1.
     static bool setComboboxValue(QComboBox *combo, QVariant value, int *index);
+
+    // A window's size and position, and for a main window also its docks and tool
+    // bars, under "_windowGeometry" and "_windowState" in `group` (same store
+    // selection). Call the restore once the window's docks and tool bars exist.
+    static void saveWindowState(QWidget *window, QString group, QString fileName, QSettings *settings);
+    // False, leaving the window as it is, when nothing was saved for `group`.
+    static bool restoreWindowState(QWidget *window, QString group, QString fileName,
+                                   QSettings *settings);
 };
