@@ -3,13 +3,16 @@
 #include "ConciseDcfCreator.h"
 
 #include "CANopenTypes.h"
+#include "DCFWriter.h"
 #include "DcfStorage_p.h"
 #include "IniDocument_p.h"
 
+#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QtEndian>
 
 #include <algorithm>
@@ -456,6 +459,50 @@ bool ConciseDcfCreator::writeConciseDcf(const QString &outputName)
         return false;
     }
     return true;
+}
+
+bool ConciseDcfCreator::writeConciseDcf(const QString &outputName,
+                                        const std::function<void(DCFWriter &)> &configure)
+{
+    m_errors.clear();
+    // Outside the output's folder and removed with the directory on every path.
+    QTemporaryDir work;
+    const QString copy = work.filePath(QStringLiteral("configured.dcf"));
+    if (!work.isValid() || !QFile::copy(m_fileName, copy)) {
+        m_errors << tr("Cannot read %1").arg(m_fileName);
+        return false;
+    }
+    QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+    {
+        DCFWriter writer;
+        if (!writer.setDCFFile(copy)) {
+            m_errors << tr("Cannot read %1").arg(m_fileName);
+            return false;
+        }
+        if (configure)
+            configure(writer);
+        writer.writeFile();
+    }
+    const QString original = m_fileName;
+    m_fileName = copy;
+    const bool written = writeConciseDcf(outputName);
+    m_fileName = original;
+    m_settings.reset();
+    return written;
+}
+
+bool ConciseDcfCreator::checkValue(int dataType, const QString &value, int nodeId, QString *reason)
+{
+    TypeInfo type;
+    QString why;
+    QByteArray data;
+    if (!typeInfo(dataType, &type))
+        why = tr("data type 0x%1 is not supported").arg(dataType, 0, 16);
+    else if (encode(value, type, nodeId, &data, &why))
+        return true;
+    if (reason)
+        *reason = why;
+    return false;
 }
 
 bool ConciseDcfCreator::readConciseDcf(const QByteArray &bytes, QList<ConciseEntry> *entries, QString *error)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The CommonGUI developers
 // SPDX-License-Identifier: BSD-3-Clause
 #include "ConciseDcfCreator.h"
+#include "DCFWriter.h"
 #include "TestFiles.h"
 
 #include <QtTest>
@@ -22,6 +23,8 @@ private slots:
     void malformedValue();
     void readerRejects_data();
     void readerRejects();
+    void configuredExport_data();
+    void configuredExport();
 
 private:
     QString writeSheet(const QByteArray &text) { return m_dir.write(text); }
@@ -254,6 +257,51 @@ void tst_ConciseDcfCreator::readerRejects()
     QVERIFY(!ConciseDcfCreator::readConciseDcf(bytes, &entries, &message));
     QCOMPARE(message, error);
     QCOMPARE(entries.size(), 1);  // untouched on failure
+}
+
+void tst_ConciseDcfCreator::configuredExport_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("expected");  // empty: the export fails
+    QTest::newRow("written") << "1000" << QByteArray::fromHex("01000000 1710 00 02000000 e803");
+    QTest::newRow("not a number") << "abc" << QByteArray();
+    QTest::newRow("out of range") << "70000" << QByteArray();
+}
+
+// The configured DCF is an intermediate: neither success nor failure leaves it
+// (or anything else) beside the output, and the data sheet stays as it was.
+void tst_ConciseDcfCreator::configuredExport()
+{
+    QFETCH(QString, value);
+    QFETCH(QByteArray, expected);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QByteArray text = "[OptionalObjects]\r\nSupportedObjects=1\r\n1=0x1017\r\n"
+                            "[1017]\r\nParameterName=Producer heartbeat time\r\nObjectType=0x7\r\n"
+                            "DataType=0x0006\r\nAccessType=rw\r\nDefaultValue=0\r\n";
+    const QString sheet = dir.filePath("device.eds");
+    {
+        QFile file(sheet);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    const QString output = dir.filePath("node5.cdcf");
+    ConciseDcfCreator creator(sheet);
+    const bool ok = creator.writeConciseDcf(output, [&](DCFWriter &writer) {
+        writer.setParameterValue(0x1017, 0, value, QString());
+    });
+    QCOMPARE(ok, !expected.isEmpty());
+    QCOMPARE(creator.errors().isEmpty(), ok);
+    const QStringList left = QDir(dir.path()).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
+    QCOMPARE(left, ok ? QStringList({ "device.eds", "node5.cdcf" }) : QStringList({ "device.eds" }));
+    QFile file(sheet);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), text);
+    if (ok) {
+        QFile out(output);
+        QVERIFY(out.open(QIODevice::ReadOnly));
+        QCOMPARE(out.readAll(), expected);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ConciseDcfCreator)
