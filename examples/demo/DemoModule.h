@@ -13,7 +13,7 @@ class DemoWindow;
 // with a static DemoModuleRegistrar, so subsystems never touch each other's code.
 struct DemoModule
 {
-    QString name;
+    QString name;  // marked with QT_TRANSLATE_NOOP("DemoModule", ...)
     int order = 0;  // menus are filled in ascending order
     std::function<void(DemoWindow *)> install;
 };

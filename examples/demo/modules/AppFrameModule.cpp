@@ -10,7 +10,7 @@
 #include <QAction>
 #include <QMenu>
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Application frame"), 0, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Application frame")), 0, [](DemoWindow *window) {
     auto app = static_cast<KorvilBaseApplication *>(qApp);
     QMenu *diagnostics = window->toolsMenu()->addMenu(QObject::tr("&Diagnostics"));
     QAction *trace = diagnostics->addAction(QObject::tr("Record function &trace"));

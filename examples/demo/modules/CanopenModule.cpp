@@ -7,6 +7,8 @@
 #include "CANopenTypes.h"
 #include "ConciseDcfCreator.h"
 #include "DCFWriter.h"
+#include "DataSheet.h"
+#include "GuiHelper.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -21,9 +23,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QSettings>
+#include <QSignalBlocker>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -56,18 +58,23 @@ const char sampleEds[] =
     "AccessType=rw\r\nDefaultValue=$NODEID+0x180\r\nPDOMapping=0\r\n\r\n"
     "[1800sub2]\r\nParameterName=Transmission type\r\nObjectType=0x7\r\nDataType=0x0005\r\n"
     "AccessType=rw\r\nDefaultValue=254\r\nPDOMapping=0\r\n\r\n"
-    "[ManufacturerObjects]\r\nSupportedObjects=1\r\n1=0x2000\r\n\r\n"
+    "[ManufacturerObjects]\r\nSupportedObjects=2\r\n1=0x2000\r\n2=0x2001\r\n\r\n"
     "[2000]\r\nParameterName=Output name\r\nObjectType=0x7\r\nDataType=0x0009\r\n"
-    "AccessType=rw\r\nDefaultValue=out\r\nPDOMapping=0\r\n";
+    "AccessType=rw\r\nDefaultValue=out\r\nPDOMapping=0\r\n\r\n"
+    "[2001]\r\nParameterName=Output 1, inverted\r\nObjectType=0x7\r\nDataType=0x0001\r\n"
+    "AccessType=rw\r\nDefaultValue=0\r\nPDOMapping=1\r\n";
 
 enum Column { ColIndex, ColSub, ColName, ColType, ColAccess, ColDefault, ColValue, ColDenotation, ColCount };
 
 class ConfigureNodeWindow : public QDialog
 {
+    Q_OBJECT
+
 public:
     explicit ConfigureNodeWindow(QWidget *parent = nullptr)
         : QDialog(parent)
     {
+        setObjectName(QStringLiteral("ConfigureNodeWindow"));
         setWindowTitle(tr("Configure node"));
         auto layout = new QVBoxLayout(this);
 
@@ -97,8 +104,12 @@ public:
         form->addRow(tr("&Baud rate:"), m_baud);
         form->addRow(tr("Net &number:"), m_netNumber);
         auto names = new QFormLayout;
-        names->addRow(tr("Net&work name:"), m_netName);
+        names->addRow(tr("Networ&k name:"), m_netName);
         names->addRow(tr("Node n&ame:"), m_nodeName);
+        m_filter = new QLineEdit;
+        m_filter->setPlaceholderText(tr("Index, name or type (Ctrl+F)"));
+        m_filter->setClearButtonEnabled(true);
+        names->addRow(tr("&Filter:"), m_filter);
         top->addLayout(form);
         top->addLayout(names, 1);
         layout->addLayout(top);
@@ -108,11 +119,13 @@ public:
                                              tr("Default"), tr("Value"), tr("Denotation") });
         m_table->verticalHeader()->hide();
         m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+        m_table->setTabKeyNavigation(false);
         m_concise = new QTableWidget(0, 4);
         m_concise->setHorizontalHeaderLabels({ tr("Index"), tr("Sub"), tr("Size"), tr("Data (little-endian)") });
         m_concise->verticalHeader()->hide();
         m_concise->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
         m_concise->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        m_concise->setTabKeyNavigation(false);
         auto conciseBox = new QWidget;
         auto conciseLayout = new QVBoxLayout(conciseBox);
         conciseLayout->setContentsMargins(0, 0, 0, 0);
@@ -127,9 +140,10 @@ public:
 
         auto buttons = new QHBoxLayout;
         m_status = new QLabel;
+        m_status->setWordWrap(true);
         auto write = new QPushButton(tr("&Write DCF..."));
         auto exportConcise = new QPushButton(tr("&Export concise DCF..."));
-        auto close = new QPushButton(tr("Close"));
+        auto close = new QPushButton(tr("&Close"));
         buttons->addWidget(m_status, 1);
         buttons->addWidget(write);
         buttons->addWidget(exportConcise);
@@ -143,6 +157,8 @@ public:
                 load(name);
         });
         connect(write, &QPushButton::clicked, this, [this] {
+            if (!valuesUsable())
+                return;
             const QString suggestion = QFileInfo(m_file->text()).dir().filePath(
                 QStringLiteral("node%1.dcf").arg(m_nodeId->value()));
             const QString name = QFileDialog::getSaveFileName(this, tr("Write DCF"), suggestion,
@@ -151,6 +167,8 @@ public:
                 writeDcf(name);
         });
         connect(exportConcise, &QPushButton::clicked, this, [this] {
+            if (!valuesUsable())
+                return;
             const QString suggestion = QFileInfo(m_file->text()).dir().filePath(
                 QStringLiteral("node%1.cdcf").arg(m_nodeId->value()));
             const QString name = QFileDialog::getSaveFileName(this, tr("Export concise DCF"), suggestion,
@@ -159,6 +177,16 @@ public:
                 exportConciseDcf(name);
         });
         connect(close, &QPushButton::clicked, this, &QDialog::accept);
+        connect(m_filter, &QLineEdit::textChanged, this, &ConfigureNodeWindow::applyFilter);
+        connect(m_table, &QTableWidget::itemChanged, this, [this](QTableWidgetItem *item) {
+            if (item->column() == ColValue)
+                markValue(item->row());
+        });
+        connect(m_nodeId, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] {
+            for (int row = 0; row < m_table->rowCount(); ++row)
+                markValue(row);
+        });
+        DemoWindow::addFindShortcut(this, m_filter);
         resize(940, 640);
 
         if (m_sampleDir.isValid()) {
@@ -177,42 +205,39 @@ public:
     {
         m_file->setText(fileName);
         m_table->setRowCount(0);
-        QSettings sheet(fileName, QSettings::IniFormat);
-        sheet.setIniCodec("UTF-8");
-        const QRegularExpression object(QStringLiteral("^([0-9a-f]{4})(?:sub([0-9a-f]+))?$"),
-                                        QRegularExpression::CaseInsensitiveOption);
-        const QStringList groups = sheet.childGroups();
-        for (const QString &group : groups) {
-            const auto match = object.match(group);
-            if (!match.hasMatch())
-                continue;
-            sheet.beginGroup(group);
-            const bool hasValue = sheet.contains(QStringLiteral("DataType"));
-            if (hasValue) {
-                const int row = m_table->rowCount();
-                m_table->insertRow(row);
-                const QString sub = match.captured(2).isEmpty() ? QStringLiteral("0") : match.captured(2);
-                const QStringList cells = { QStringLiteral("0x") + match.captured(1).toUpper(),
-                                            sub.toUpper(), sheet.value(QStringLiteral("ParameterName")).toString(),
-                                            sheet.value(QStringLiteral("DataType")).toString(),
-                                            sheet.value(QStringLiteral("AccessType")).toString(),
-                                            sheet.value(QStringLiteral("DefaultValue")).toString() };
-                for (int c = 0; c < cells.size(); ++c) {
-                    auto item = new QTableWidgetItem(cells.at(c));
-                    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-                    m_table->setItem(row, c, item);
-                }
-                m_table->setItem(row, ColValue, new QTableWidgetItem);
-                m_table->setItem(row, ColDenotation, new QTableWidgetItem);
-            }
-            sheet.endGroup();
+        QString error;
+        if (!m_sheet.load(fileName, &error)) {
+            m_objects.clear();
+            m_status->setText(tr("Cannot read %1: %2").arg(fileName, error));
+            return;
         }
+        m_objects = m_sheet.objects();
+        const QSignalBlocker blocker(m_table);
+        for (const DataSheetObject &object : qAsConst(m_objects)) {
+            const int row = m_table->rowCount();
+            m_table->insertRow(row);
+            const QStringList cells = { QStringLiteral("0x%1").arg(hex(object.index, 4)), hex(object.subIndex, 1),
+                                        object.name, object.dataTypeText, object.accessType, object.defaultValue };
+            for (int c = 0; c < cells.size(); ++c) {
+                auto item = new QTableWidgetItem(cells.at(c));
+                item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+                m_table->setItem(row, c, item);
+            }
+            m_table->setItem(row, ColValue, new QTableWidgetItem(object.parameterValue));
+            m_table->setItem(row, ColDenotation, new QTableWidgetItem(object.denotation));
+        }
+        for (int row = 0; row < m_table->rowCount(); ++row)
+            markValue(row);
         m_table->resizeColumnsToContents();
-        m_table->setColumnWidth(ColName, qMin(m_table->columnWidth(ColName), 220));
+        m_table->setColumnWidth(ColName, qMin(m_table->columnWidth(ColName), 260));
         m_table->setColumnWidth(ColDefault, qMin(m_table->columnWidth(ColDefault), 120));
         m_table->setColumnWidth(ColValue, 120);
         m_table->horizontalHeader()->setSectionResizeMode(ColDenotation, QHeaderView::Stretch);
-        m_status->setText(tr("%n object(s)", nullptr, m_table->rowCount()));
+        applyFilter(m_filter->text());
+        QString text = tr("%n object(s)", nullptr, m_table->rowCount());
+        if (m_sheet.isLatin1())
+            text += QLatin1Char(' ') + tr("(not UTF-8: read as Latin-1)");
+        m_status->setText(text);
         log(tr("Opened %1").arg(fileName));
     }
 
@@ -246,34 +271,24 @@ public:
         DCFWriter writer;
         if (!writer.setDCFFile(target))
             return false;
-        writer.updateDeviceCommisioning(quint16(m_baud->currentData().toInt()), quint8(m_netNumber->value()),
-                                        m_netName->text(), quint8(m_nodeId->value()), m_nodeName->text());
-        int values = 0;
-        for (int row = 0; row < m_table->rowCount(); ++row) {
-            const QString value = m_table->item(row, ColValue)->text().trimmed();
-            const QString denotation = m_table->item(row, ColDenotation)->text().trimmed();
-            if (value.isEmpty() && denotation.isEmpty())
-                continue;
-            const quint16 index = quint16(m_table->item(row, ColIndex)->text().toUInt(nullptr, 16));
-            const quint8 sub = quint8(m_table->item(row, ColSub)->text().toUInt(nullptr, 16));
-            writer.setParameterValue(index, sub, value, denotation);
-            ++values;
-        }
+        const int values = configure(writer);
         writer.writeFile();
-        m_status->setText(tr("Wrote %1 (%n value(s))", nullptr, values).arg(QFileInfo(target).fileName()));
+        QString text = tr("Wrote %1 (%n value(s))", nullptr, values).arg(QFileInfo(target).fileName());
+        const QStringList readOnly = readOnlyValues();
+        if (!readOnly.isEmpty())
+            text += QLatin1Char(' ') + tr("%n read-only value(s) are in the DCF only, not in a concise DCF.", nullptr,
+                                          readOnly.size());
+        m_status->setText(text);
         log(tr("Wrote DCF %1 with %n configured object(s)", nullptr, values).arg(target));
         return true;
     }
 
-    // Writes the DCF beside the output, then its concise form, and lists the entries.
+    // The concise form straight from the data sheet and the table's values.
     bool exportConciseDcf(const QString &output)
     {
-        const QString dcf = output + QStringLiteral(".dcf");
-        if (!writeDcf(dcf))
-            return false;
-        ConciseDcfCreator creator(dcf);
+        ConciseDcfCreator creator(m_file->text());
         m_concise->setRowCount(0);
-        if (!creator.writeConciseDcf(output)) {
+        if (!creator.writeConciseDcf(output, [this](DCFWriter &writer) { configure(writer); })) {
             m_status->setText(tr("Not exported: %1").arg(creator.errors().value(0)));
             log(tr("Concise DCF not written:\n%1").arg(creator.errorString()));
             return false;
@@ -288,16 +303,18 @@ public:
         for (const auto &entry : qAsConst(entries)) {
             const int row = m_concise->rowCount();
             m_concise->insertRow(row);
-            const QStringList cells = { QStringLiteral("0x%1").arg(entry.index, 4, 16, QLatin1Char('0')).toUpper().replace(QLatin1String("0X"), QLatin1String("0x")),
-                                        QString::number(entry.subIndex, 16).toUpper(),
-                                        QString::number(entry.data.size()),
-                                        QString::fromLatin1(entry.data.toHex(' ')) };
+            const QStringList cells = { QStringLiteral("0x%1").arg(hex(entry.index, 4)), hex(entry.subIndex, 1),
+                                        QString::number(entry.data.size()), QString::fromLatin1(entry.data.toHex(' ')) };
             for (int c = 0; c < cells.size(); ++c)
                 m_concise->setItem(row, c, new QTableWidgetItem(cells.at(c)));
         }
         m_concise->resizeColumnsToContents();
         m_concise->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
-        m_status->setText(tr("Exported %n entry(s) to %1", nullptr, entries.size()).arg(QFileInfo(output).fileName()));
+        QString text = tr("Exported %n entry(s) to %1", nullptr, entries.size()).arg(QFileInfo(output).fileName());
+        const QStringList readOnly = readOnlyValues();
+        if (!readOnly.isEmpty())
+            text += QLatin1Char(' ') + tr("Not included, being read-only: %1").arg(readOnly.join(QStringLiteral(", ")));
+        m_status->setText(text);
         log(tr("Wrote concise DCF %1 with %n entry(s)", nullptr, entries.size()).arg(output));
         return true;
     }
@@ -305,6 +322,101 @@ public:
     QString sampleDirectory() const { return m_sampleDir.path(); }
 
 private:
+    static QString hex(uint value, int width)
+    {
+        return QStringLiteral("%1").arg(value, width, 16, QLatin1Char('0')).toUpper();
+    }
+
+    QString where(int row) const
+    {
+        const DataSheetObject &object = m_objects.at(row);
+        return QStringLiteral("0x%1sub%2 %3").arg(hex(object.index, 4), hex(object.subIndex, 1), object.name);
+    }
+
+    // The table's values and denotations into the writer; returns how many objects got one.
+    int configure(DCFWriter &writer) const
+    {
+        writer.updateDeviceCommisioning(quint16(m_baud->currentData().toInt()), quint8(m_netNumber->value()),
+                                        m_netName->text(), quint8(m_nodeId->value()), m_nodeName->text());
+        int values = 0;
+        for (int row = 0; row < m_table->rowCount(); ++row) {
+            const QString value = m_table->item(row, ColValue)->text().trimmed();
+            const QString denotation = m_table->item(row, ColDenotation)->text().trimmed();
+            if (value.isEmpty() && denotation.isEmpty())
+                continue;
+            const DataSheetObject &object = m_objects.at(row);
+            writer.setParameterValue(object.index, object.subIndex, value, denotation);
+            ++values;
+        }
+        return values;
+    }
+
+    QString problem(int row) const
+    {
+        const QString value = m_table->item(row, ColValue)->text().trimmed();
+        return value.isEmpty() ? QString() : DataSheet::checkValue(m_objects.at(row), value, m_nodeId->value());
+    }
+
+    QStringList readOnlyValues() const
+    {
+        QStringList objects;
+        for (int row = 0; row < m_table->rowCount(); ++row) {
+            if (!m_table->item(row, ColValue)->text().trimmed().isEmpty() && !m_objects.at(row).isWritable())
+                objects << where(row);
+        }
+        return objects;
+    }
+
+    // Red for a value its type cannot hold, yellow for one the concise DCF leaves out.
+    void markValue(int row)
+    {
+        QTableWidgetItem *item = m_table->item(row, ColValue);
+        if (!item || row >= m_objects.size())
+            return;
+        const QSignalBlocker blocker(m_table);
+        const QString reason = problem(row);
+        const bool readOnly = !item->text().trimmed().isEmpty() && !m_objects.at(row).isWritable();
+        if (!reason.isEmpty()) {
+            item->setBackground(QColor(255, 205, 205));
+            item->setToolTip(reason);
+        } else if (readOnly) {
+            item->setBackground(QColor(255, 240, 190));
+            item->setToolTip(tr("%1 is read-only: the value goes into the DCF, not into the concise DCF")
+                                 .arg(m_objects.at(row).accessType));
+        } else {
+            item->setData(Qt::BackgroundRole, QVariant());
+            item->setToolTip(QString());
+        }
+    }
+
+    // Every value checked against its data type before anything is written.
+    bool valuesUsable()
+    {
+        QStringList problems;
+        for (int row = 0; row < m_table->rowCount(); ++row) {
+            const QString reason = problem(row);
+            if (!reason.isEmpty())
+                problems << tr("%1: %2").arg(where(row), reason);
+        }
+        if (problems.isEmpty())
+            return true;
+        GuiHelper::showMessageBox(this, tr("Configure node"),
+                                  tr("%n value(s) cannot be written for their data type.", nullptr, problems.size()),
+                                  problems.join(QLatin1Char('\n')), QMessageBox::Ok, QMessageBox::Warning);
+        m_status->setText(tr("Nothing written: %n value(s) to correct", nullptr, problems.size()));
+        return false;
+    }
+
+    void applyFilter(const QString &text)
+    {
+        for (int row = 0; row < m_table->rowCount(); ++row) {
+            bool match = text.isEmpty();
+            for (int column = 0; column < ColCount && !match; ++column)
+                match = m_table->item(row, column)->text().contains(text, Qt::CaseInsensitive);
+            m_table->setRowHidden(row, !match);
+        }
+    }
+
     void log(const QString &text)
     {
         if (onLog)
@@ -312,12 +424,15 @@ private:
     }
 
     QTemporaryDir m_sampleDir;
+    DataSheet m_sheet;
+    QList<DataSheetObject> m_objects;  // one per table row
     QLineEdit *m_file = nullptr;
     QSpinBox *m_nodeId = nullptr;
     QComboBox *m_baud = nullptr;
     QSpinBox *m_netNumber = nullptr;
     QLineEdit *m_netName = nullptr;
     QLineEdit *m_nodeName = nullptr;
+    QLineEdit *m_filter = nullptr;
     QTableWidget *m_table = nullptr;
     QTableWidget *m_concise = nullptr;
     QLabel *m_status = nullptr;
@@ -325,11 +440,12 @@ private:
 
 }
 
-static DemoModuleRegistrar registrar({ QStringLiteral("CANopen"), 40, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "CANopen")), 40, [](DemoWindow *window) {
     QAction *configure = window->toolsMenu()->addAction(QObject::tr("&Configure node..."));
     QObject::connect(configure, &QAction::triggered, window, [window] {
         auto dialog = new ConfigureNodeWindow(window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
+        DemoWindow::keepWindowState(dialog, dialog->objectName());
         dialog->onLog = [window](const QString &text) { window->log(text); };
         dialog->show();
     });
@@ -340,3 +456,5 @@ static DemoModuleRegistrar registrar({ QStringLiteral("CANopen"), 40, [](DemoWin
         return dialog;
     });
 } });
+
+#include "CanopenModule.moc"

@@ -26,13 +26,13 @@
 #include <QHelpContentWidget>
 #include <QHelpEngine>
 #include <QHelpLink>
+#include <QKeyEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
@@ -50,12 +50,12 @@ QString tipFile()
     return german ? QStringLiteral(":/totd/totd/tips_de.txt") : QStringLiteral(":/totd/totd/tips_en.txt");
 }
 
-const char credits[] =
+const char credits[] = QT_TRANSLATE_NOOP("QObject",
         "<p><b>CommonGUI Demo</b> shows the shared building blocks of the Korvil "
         "CANopen tools.</p>"
         "<p>Copyright &copy; Korvil. Licensed to the holder of a tool licence; "
         "see the licence agreement delivered with the tool.</p>"
-        "<p>Built with the Qt toolkit, used under the GNU LGPL version 3.</p>";
+        "<p>Built with the Qt toolkit, used under the GNU LGPL version 3.</p>");
 
 // Opens on the start page with the contents unfolded; `wait` lets the
 // screenshot see the contents, which the engine builds in the background.
@@ -97,18 +97,52 @@ TipOfTheDay *createTips(bool showOnStartup, unsigned char lastTip, QWidget *pare
     return tips;
 }
 
-// With the main window as parent: closing it closes the tips too.
-void showTips(bool atStartup, QWidget *window)
+// With the main window as parent: closing it closes the tips too. `done` runs
+// when the tips are gone (or were not wanted).
+void showTips(bool atStartup, QWidget *window, std::function<void()> done = {})
 {
     const QVariant stored = GuiHelper::restoreSetting(tipGroup, QStringLiteral("showOnStartup"),
                                                       QString(), nullptr);
     const bool show = !stored.isValid() || stored.toBool();
-    if (atStartup && !show)
+    if (atStartup && !show) {
+        if (done)
+            done();
         return;
+    }
     const QVariant lastTip = GuiHelper::restoreSetting(tipGroup, QStringLiteral("lastTip"), QString(), nullptr);
     const auto last = static_cast<unsigned char>(lastTip.isValid() ? lastTip.toUInt() : 255);
-    createTips(show, last, window)->show();
+    TipOfTheDay *tips = createTips(show, last, window);
+    if (done)
+        QObject::connect(tips, &QObject::destroyed, window, [done] { done(); });
+    tips->show();
 }
+
+// The link reacts to the keyboard as to a click.
+class LinkKeys : public QObject
+{
+public:
+    LinkKeys(ClickableLineEdit *link, QString target)
+        : QObject(link), m_link(link), m_target(std::move(target))
+    {
+        link->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
+            return false;
+        Q_EMIT m_link->clicked(m_target);
+        return true;
+    }
+
+private:
+    ClickableLineEdit *m_link;
+    QString m_target;
+};
 
 // Keeps the watermark over the whole log view.
 class OverlayFitter : public QObject
@@ -140,15 +174,17 @@ private:
 
 }
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Help and widgets")), 80, [](DemoWindow *window) {
     QApplication::setStyle(new KorvilAppStyle);
     const bool screenshots = window->arguments().contains(QStringLiteral("--screenshots"));
 
     // Tool bar: an EDS field that takes dropped files, and a link field.
     QToolBar *bar = window->addToolBar(QObject::tr("Files"));
     bar->setObjectName(QStringLiteral("tbrFiles"));
-    bar->addWidget(new QLabel(QObject::tr(" EDS file: ")));
+    auto edsLabel = new QLabel(QObject::tr(" &EDS file: "));
+    bar->addWidget(edsLabel);
     auto edsField = new CustomLineEdit;
+    edsLabel->setBuddy(edsField);
     edsField->setObjectName(QStringLiteral("edtEdsFile"));
     edsField->addAcceptedSuffix(QStringLiteral("eds"));
     edsField->addAcceptedSuffix(QStringLiteral("dcf"));
@@ -176,7 +212,11 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
         window->log(QObject::tr("Link clicked: %1").arg(target));
         QDesktopServices::openUrl(QUrl(target));
     });
+    link->setFocusPolicy(Qt::StrongFocus);
+    link->setToolTip(QObject::tr("Return or Space opens the release notes"));
+    new LinkKeys(link, QUrl::fromLocalFile(notes).toString());
     bar->addWidget(link);
+    QWidget::setTabOrder(edsField, link);
 
     // A faint caption over the activity log.
     if (auto log = qobject_cast<QPlainTextEdit *>(window->centralWidget())) {
@@ -197,6 +237,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
     QMenu *help = window->helpMenu();
     QAction *contents = help->addAction(QIcon(QStringLiteral(":/data/icons/help.png")), QObject::tr("&Help Contents..."));
     contents->setShortcut(QKeySequence::HelpContents);
+    contents->setShortcutContext(Qt::ApplicationShortcut);  // F1 in every window of the tool
     QObject::connect(contents, &QAction::triggered, window, [window] {
         if (!QFileInfo::exists(dataPath(QStringLiteral("help/demo.qhc"))))
             window->log(QObject::tr("No help collection next to the tool"));
@@ -214,6 +255,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
     if (QMenu *menu = manuals->getManualsMenu()) {
         menu->setParent(window, menu->windowFlags());  // the window frees it
         menu->setIcon(QIcon(QStringLiteral(":/data/icons/manual.png")));
+        menu->setTitle(QObject::tr("Ma&nuals"));
         help->addMenu(menu);
     } else {
         window->log(QObject::tr("No PDF manuals in %1").arg(dataPath(QStringLiteral("manuals"))));
@@ -225,12 +267,12 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
     help->addSeparator();
     QAction *about = help->addAction(QIcon(QStringLiteral(":/data/icons/info.png")), QObject::tr("&About..."));
     QObject::connect(about, &QAction::triggered, window, [window] {
-        AboutDialog dialog(QString(), QString(), QString::fromUtf8(credits), window);
+        AboutDialog dialog(QString(), QString(), QObject::tr(credits), window);
         dialog.exec();
     });
 
     if (!screenshots)
-        QTimer::singleShot(0, window, [window] { showTips(true, window); });
+        window->addStartupStep([window](std::function<void()> done) { showTips(true, window, done); });
 
     // Screenshots of every window of this module.
     window->addScreenshot(QStringLiteral("help-viewer"), [] {
@@ -261,7 +303,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Help and widgets"), 80, [
         return dialog;
     });
     window->addScreenshot(QStringLiteral("about"), [] {
-        return new AboutDialog(QString(), QString(), QString::fromUtf8(credits));
+        return new AboutDialog(QString(), QString(), QObject::tr(credits));
     });
     window->addScreenshot(QStringLiteral("manuals-menu"), [] {
         ManualHandler handler;

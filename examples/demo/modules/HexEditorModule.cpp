@@ -40,6 +40,8 @@ QString sizeText(int size)
 
 class HexEditorWindow : public QMainWindow
 {
+    Q_OBJECT
+
 public:
     HexEditorWindow()
     {
@@ -60,7 +62,7 @@ public:
         overwrite->setChecked(m_edit->overwriteMode());
         connect(overwrite, &QAction::toggled, m_edit, &QHexEdit::setOverwriteMode);
         connect(m_edit, &QHexEdit::overwriteModeChanged, overwrite, &QAction::setChecked);
-        QAction *readOnly = new QAction(tr("Read &only"), this);
+        QAction *readOnly = new QAction(tr("Read-onl&y"), this);
         readOnly->setCheckable(true);
         connect(readOnly, &QAction::toggled, m_edit, &QHexEdit::setReadOnly);
 
@@ -128,7 +130,7 @@ QWidget *screenshotWindow()
 
 }
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Hex editor"), 60, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Hex editor")), 60, [](DemoWindow *window) {
     window->toolsMenu()->addAction(QObject::tr("&Hex editor"), window, [window] {
         auto editor = new HexEditorWindow;
         editor->setAttribute(Qt::WA_DeleteOnClose);
@@ -137,3 +139,5 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Hex editor"), 60, [](Demo
     });
     window->addScreenshot(QStringLiteral("hex-editor"), screenshotWindow);
 } });
+
+#include "HexEditorModule.moc"

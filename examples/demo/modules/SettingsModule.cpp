@@ -13,6 +13,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QAction>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -68,8 +69,9 @@ QWidget *createPanel()
     table->setHorizontalHeaderLabels({ QObject::tr("Node"), QObject::tr("Name"), QObject::tr("EDS file") });
     table->horizontalHeader()->setStretchLastSection(true);
     table->verticalHeader()->hide();
-    const QStringList defaults = { QStringLiteral("Drive"), QStringLiteral("I/O module"),
-                                   QStringLiteral("Encoder"), QStringLiteral("Display") };
+    table->setTabKeyNavigation(false);  // Tab leaves the table; arrows move between cells
+    const QStringList defaults = { QObject::tr("Drive"), QObject::tr("I/O module"),
+                                   QObject::tr("Encoder"), QObject::tr("Display") };
     for (int row = 0; row < table->rowCount(); ++row) {
         table->setItem(row, 0, new QTableWidgetItem(QString::number(row + 2)));
         table->setItem(row, 1, new QTableWidgetItem(defaults.at(row)));
@@ -81,6 +83,7 @@ QWidget *createPanel()
     notes->setObjectName(QStringLiteral("txtNotes"));
     notes->setPlaceholderText(QObject::tr("Notes on this network"));
     notes->setMaximumHeight(80);
+    notes->setTabChangesFocus(true);  // a tab character in the notes is never meant
     layout->addWidget(notes);
 
     QObject::connect(filter, &QGroupBox::clicked, ids, &QWidget::setEnabled);
@@ -90,13 +93,15 @@ QWidget *createPanel()
 
 }
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Settings persistence"), 10, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Settings persistence")), 10, [](DemoWindow *window) {
     auto dock = new QDockWidget(QObject::tr("Network"), window);
     dock->setObjectName(QStringLiteral("dockNetwork"));
     QWidget *panel = createPanel();
     dock->setWidget(panel);
     window->addDockWidget(Qt::LeftDockWidgetArea, dock);
-    window->toolsMenu()->addAction(dock->toggleViewAction());
+    QAction *toggle = dock->toggleViewAction();
+    toggle->setText(QObject::tr("&Network panel"));
+    window->toolsMenu()->addAction(toggle);
 
     GuiHelper::restoreSettings(panel, group, QString(), nullptr);
     window->onClose([panel] { GuiHelper::saveSettings(panel, group, QString(), nullptr); });

@@ -73,7 +73,9 @@ public:
     {
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
             return QVariant();
-        static const char *const titles[] = { "Time (s)", "ID", "Type", "DLC", "Data" };
+        static const char *const titles[] = { QT_TRANSLATE_NOOP("QObject", "Time (s)"), QT_TRANSLATE_NOOP("QObject", "ID"),
+                                              QT_TRANSLATE_NOOP("QObject", "Type"), QT_TRANSLATE_NOOP("QObject", "DLC"),
+                                              QT_TRANSLATE_NOOP("QObject", "Data") };
         return QObject::tr(titles[section]);
     }
 
@@ -143,6 +145,8 @@ private:
 
 class TraceWindow : public QMainWindow
 {
+    Q_OBJECT
+
 public:
     explicit TraceWindow(int frames, QWidget *parent = nullptr) : QMainWindow(parent)
     {
@@ -179,7 +183,9 @@ public:
         menu->addAction(search->getMenuAction(GenericViewSearch::SearchAll));
         menu->addSeparator();
         menu->addAction(search->getMenuAction(GenericViewSearch::SearchSubElements));
-        statusBar()->showMessage(tr("%L1 frames").arg(frames));
+        // A permanent text: hovering a menu must not wipe it.
+        statusBar()->addWidget(new QLabel(tr("%L1 frames").arg(frames), this));
+        DemoWindow::addFindShortcut(this, edit);
         resize(720, 480);
     }
 
@@ -228,7 +234,7 @@ FileViewerDialog *sampleViewer()
 
 } // namespace
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Trace and file viewer"), 30, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Trace and file viewer")), 30, [](DemoWindow *window) {
     QMenu *file = window->fileMenu();
     auto viewFile = new QAction(QObject::tr("&View..."), file);
     file->insertAction(file->actions().value(0), viewFile);
@@ -246,10 +252,12 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Trace and file viewer"), 
     QAction *trace = window->toolsMenu()->addAction(QObject::tr("CAN &trace window"));
     QObject::connect(trace, &QAction::triggered, window, [window] {
         auto w = new TraceWindow(1000000, window);
+        w->setObjectName(QStringLiteral("TraceWindow"));
         w->setWindowFlag(Qt::Window);
         w->setAttribute(Qt::WA_DeleteOnClose);
+        DemoWindow::keepWindowState(w, w->objectName());
         w->show();
-        window->log(QObject::tr("Trace window with 1,000,000 generated frames"));
+        window->log(QObject::tr("Trace window with %L1 generated frames").arg(1000000));
     });
 
     window->addScreenshot(QStringLiteral("can-trace"), [] {
@@ -261,3 +269,5 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Trace and file viewer"), 
     });
     window->addScreenshot(QStringLiteral("file-viewer"), [] { return sampleViewer(); });
 } });
+
+#include "TraceModule.moc"

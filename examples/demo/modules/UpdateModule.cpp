@@ -13,16 +13,18 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QMenu>
 #include <QMessageBox>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
 #include <QPointer>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QUrl>
 
-#include <algorithm>
 #include <memory>
 
 namespace {
@@ -62,34 +64,75 @@ QMessageBox *crashQuestion(QWidget *parent)
     return box;
 }
 
-void askAboutCrashes(DemoWindow *window)
+// Whether anything answers at the upload address: the library sends each dump once
+// and deletes it without telling the outcome, so the tool asks first and keeps
+// the dumps when nobody is there.
+bool uploadServerReachable(const QString &url, QString *error)
+{
+    if (url.isEmpty()) {
+        *error = QObject::tr("no upload address is configured");
+        return false;
+    }
+    QNetworkAccessManager manager;
+    QNetworkRequest request{ QUrl(url) };
+    request.setTransferTimeout(5000);
+    QNetworkReply *reply = manager.head(request);
+    QEventLoop loop;
+    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    // Any HTTP answer, even an error status, means a server is listening.
+    const bool answered = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    if (!answered)
+        *error = reply->errorString();
+    delete reply;
+    return answered;
+}
+
+void sendCrashReports(DemoWindow *window, SentryCrashRecoverer *recoverer)
+{
+    const QString url = crashUploadUrl();
+    window->showStatus(QObject::tr("Sending crash reports..."));
+    QString error;
+    if (!uploadServerReachable(url, &error)) {
+        window->log(QObject::tr("Crash reports not sent: %1. They are kept and offered again at the next start.")
+                        .arg(error));
+    } else {
+        recoverer->uploadPendingCrashes();
+        window->log(QObject::tr("Crash reports handed to %1; the server does not confirm what arrived.")
+                        .arg(QUrl(url).host()));
+    }
+    window->showStatus(QObject::tr("Ready"));
+}
+
+// `done` runs when the question is answered (or was not needed).
+void askAboutCrashes(DemoWindow *window, std::function<void()> done = {})
 {
     auto recoverer = new SentryCrashRecoverer(crashUploadUrl(), dumpDirectory(), window);
     if (!recoverer->hasPendingCrashes()) {
         delete recoverer;
+        if (done)
+            done();
         return;
     }
     // Window-modal and opened, not exec'd: start-up goes on while the question waits.
     QMessageBox *box = crashQuestion(window);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(box, &QMessageBox::finished, window, [window, recoverer](int result) {
+    QObject::connect(box, &QMessageBox::finished, window, [window, recoverer, done](int result) {
         if (result == QMessageBox::Yes) {
-            window->showStatus(QObject::tr("Sending crash reports..."));
-            recoverer->uploadPendingCrashes();
-            window->log(recoverer->hasPendingCrashes() ? QObject::tr("Some crash reports could not be read")
-                                                       : QObject::tr("Crash reports sent"));
+            sendCrashReports(window, recoverer);
         } else {
             recoverer->discardPendingCrashes();
             window->log(QObject::tr("Crash reports discarded"));
         }
-        window->showStatus(QObject::tr("Ready"));
         recoverer->deleteLater();
+        if (done)
+            done();
     });
     box->open();
 }
 }
 
-static DemoModuleRegistrar registrar({ QStringLiteral("Update checks"), 70, [](DemoWindow *window) {
+static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("DemoModule", "Update checks")), 70, [](DemoWindow *window) {
     QMenu *updates = window->helpMenu()->addMenu(QObject::tr("Check for &updates"));
 
     QAction *byFile = updates->addAction(QObject::tr("From the &version file"));
@@ -122,7 +165,7 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Update checks"), 70, [](D
     QAction *quiet = updates->addAction(QObject::tr("By binary request, &quietly"));
     QObject::connect(quiet, &QAction::triggered, window, [startPosted] { startPosted(false); });
 
-    QMenu *diagnostics = window->toolsMenu()->addMenu(QObject::tr("&Crash reports"));
+    QMenu *diagnostics = window->toolsMenu()->addMenu(QObject::tr("C&rash reports"));
     QAction *sample = diagnostics->addAction(QObject::tr("Leave a &sample crash dump"));
     QObject::connect(sample, &QAction::triggered, window, [window] {
         QDir().mkpath(dumpDirectory());
@@ -134,15 +177,16 @@ static DemoModuleRegistrar registrar({ QStringLiteral("Update checks"), 70, [](D
             window->log(QObject::tr("Could not write %1").arg(dump.fileName()));
     });
     QAction *ask = diagnostics->addAction(QObject::tr("&Ask about pending reports now"));
-    QObject::connect(ask, &QAction::triggered, window, [window] { askAboutCrashes(window); });
+    QObject::connect(ask, &QAction::triggered, window, [window] {
+        if (SentryCrashRecoverer(QString(), dumpDirectory()).hasPendingCrashes())
+            askAboutCrashes(window);
+        else
+            window->log(QObject::tr("No crash reports are waiting"));
+    });
 
     window->addScreenshot(QStringLiteral("update-crash-report-question"), [] { return crashQuestion(nullptr); });
 
     // The screenshot mode must never wait for an answer.
-    const QStringList &arguments = window->arguments();
-    const bool screenshots = std::any_of(arguments.cbegin(), arguments.cend(), [](const QString &argument) {
-        return argument.startsWith(QLatin1String("--screenshots"));
-    });
-    if (!screenshots)
-        QTimer::singleShot(0, window, [window] { askAboutCrashes(window); });
+    if (!window->screenshotMode())
+        window->addStartupStep([window](std::function<void()> done) { askAboutCrashes(window, done); });
 } });
