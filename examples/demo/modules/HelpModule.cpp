@@ -201,10 +201,11 @@ static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("De
     link->setObjectName(QStringLiteral("edtProductPage"));
     link->setReadOnly(true);
     link->setText(QObject::tr("Release notes (PDF)"));
-    link->setMaximumWidth(180);
     QFont linkFont = link->font();
     linkFont.setUnderline(true);
     link->setFont(linkFont);
+    // Wide enough for the text in every language.
+    link->setFixedWidth(link->fontMetrics().horizontalAdvance(link->text()) + 16);
     link->setStyleSheet(QStringLiteral("QLineEdit { color: palette(link); }"));
     const QString notes = dataPath(QStringLiteral("manuals/release_notes.pdf"));
     link->setLinkText(QObject::tr("Opens %1").arg(notes), QUrl::fromLocalFile(notes).toString());
