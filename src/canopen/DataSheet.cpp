@@ -10,15 +10,13 @@
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace {
 
+// Invalid sequences decode to U+FFFD and so do not survive the round trip.
 bool isUtf8(const QByteArray &bytes)
 {
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    return QString::fromUtf8(bytes).toUtf8() == bytes;
 }
 
 // Data sheets have no quoting: the text after '=' is the value. The INI layer
