@@ -20,6 +20,11 @@ void CustomLineEdit::addAcceptedSuffix(QString suffix)
     acceptedSuffixes.append(suffix);
 }
 
+void CustomLineEdit::setAcceptedSuffixes(const QStringList &suffixes)
+{
+    acceptedSuffixes = suffixes;
+}
+
 void CustomLineEdit::setInvokeReturnPressed(bool invoke)
 {
     invokeReturnPressed = invoke;

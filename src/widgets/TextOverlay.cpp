@@ -19,6 +19,20 @@ TextOverlay::TextOverlay(QString text, QWidget *parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+TextOverlay::TextOverlay(QWidget *parent)
+    : TextOverlay(QString(), parent)
+{
+}
+
+void TextOverlay::setText(const QString &text)
+{
+    if (this->text == text)
+        return;
+    this->text = text;
+    calcNewTextSize();
+    update();
+}
+
 void TextOverlay::setCoords(QPoint topLeft, QPoint bottomRight)
 {
     textRect = QRect(topLeft, bottomRight);
