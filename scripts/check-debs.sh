@@ -35,6 +35,12 @@ grep -q 'activate-noawait ldconfig' "$root/DEBIAN/triggers"
 grep -qx "libCommonGUI 1 libcommongui1 (>= 0.9)" "$root/DEBIAN/shlibs"
 if readelf -d "$lib" | grep -Eq 'RPATH|RUNPATH'; then echo "system library carries a run path"; exit 1; fi
 
+echo "== Designer plugin"
+dpkg-deb -x "$out"/libcommongui-designer_*.deb "$root"
+plugin="$root/usr/lib/$ma/qt5/plugins/designer/commonguiwidgets.so"
+test -f "$plugin"
+if readelf -d "$plugin" | grep -Eq 'RPATH|RUNPATH'; then echo "system plugin carries a run path"; exit 1; fi
+
 echo "== pkg-config for /usr"
 pc="$root/usr/lib/$ma/pkgconfig"
 test "$(PKG_CONFIG_PATH="$pc" pkg-config --variable=libdir commongui)" = "/usr/lib/$ma"

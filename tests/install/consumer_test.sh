@@ -6,6 +6,7 @@
 # with a clean environment (no LD_LIBRARY_PATH), then again after the prefix moved.
 set -euo pipefail
 build="$1"; scratch="$2"; consumer="$3"
+plugin_test="${4:-}"; plugin_dir="${5:-}"  # the Designer plugin's test and folder, when built
 rm -rf "$scratch"
 prefix="$scratch/opt/commongui"
 libdir_rel="$(sed -n 's/^CMAKE_INSTALL_LIBDIR:PATH=//p' "$build/CMakeCache.txt")"
@@ -53,6 +54,15 @@ consumers() {
     g++ -std=c++17 -fPIC "$consumer/main.cpp" -o "$scratch/pc-$tag" \
         $(PKG_CONFIG_PATH="$pc" pkg-config --cflags --libs commongui)
     clean "$scratch/pc-$tag" | grep -q '^consumer ok 0.9$'
+    out="$(clean "$scratch/cmake-$tag/formtool")"
+    for want in "QHexEdit shown" "ClickableLineEdit shown" "CustomLineEdit shown" "TextOverlay shown" \
+        "readOnly 1 colour #123456 suffixes eds,dcf return 0 caption OFFLINE"; do
+        grep -qx "$want" <<<"$out" || { echo "form lacks '$want': $out"; exit 1; }
+    done
+    if [ -n "$plugin_test" ]; then
+        clean COMMONGUI_DESIGNER_PLUGIN="$at/$plugin_dir/commonguiwidgets.so" "$plugin_test" \
+            >"$scratch/plugin-$tag.txt" 2>&1 || { cat "$scratch/plugin-$tag.txt"; exit 1; }
+    fi
     if [ -x "$at/bin/commongui-demo" ]; then
         clean "$at/bin/commongui-demo" --help >/dev/null
     fi
