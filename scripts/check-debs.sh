@@ -35,11 +35,13 @@ grep -q 'activate-noawait ldconfig' "$root/DEBIAN/triggers"
 grep -qx "libCommonGUI 1 libcommongui1 (>= 0.9)" "$root/DEBIAN/shlibs"
 if readelf -d "$lib" | grep -Eq 'RPATH|RUNPATH'; then echo "system library carries a run path"; exit 1; fi
 
-echo "== Designer plugin"
-dpkg-deb -x "$out"/libcommongui-designer_*.deb "$root"
+echo "== Designer plugin and API reference"
+for deb in "$out"/libcommongui-designer_*.deb "$out"/libcommongui-doc_*.deb; do dpkg-deb -x "$deb" "$root"; done
 plugin="$root/usr/lib/$ma/qt5/plugins/designer/commonguiwidgets.so"
 test -f "$plugin"
 if readelf -d "$plugin" | grep -Eq 'RPATH|RUNPATH'; then echo "system plugin carries a run path"; exit 1; fi
+test -f "$root/usr/share/doc/qch/CommonGUI.qch"  # not compressed: Assistant reads it as is
+test -f "$root/usr/share/doc/qch/CommonGUI.tags"
 
 echo "== pkg-config for /usr"
 pc="$root/usr/lib/$ma/pkgconfig"

@@ -7,7 +7,7 @@ packages=(build-essential cmake pkg-config ccache
           qtbase5-dev qttools5-dev qttools5-dev-tools qhelpgenerator-qt5 libqt5sql5-sqlite
           libqt5svg5-dev qttranslations5-l10n python3 binutils xxd xvfb xauth
           debhelper dpkg-dev fakeroot lintian libkf5syntaxhighlighting-tools
-          openbox xdotool imagemagick)
+          openbox xdotool imagemagick doxygen)
 missing=()
 for p in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
