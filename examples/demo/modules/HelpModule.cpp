@@ -33,6 +33,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QStandardPaths>
 #include <QToolBar>
 #include <QUrl>
 
@@ -81,6 +82,48 @@ HelpViewer *createHelpViewer(QWidget *parent, bool wait = false)
     while (wait && engine->contentModel()->rowCount() == 0 && waited.elapsed() < 5000)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
     engine->contentWidget()->expandAll();
+    return viewer;
+}
+
+// The library's API reference (CommonGUI.qch, beside the tool in the build tree,
+// under share/doc/qch when installed), registered into a collection of its own.
+HelpViewer *createApiReference(QWidget *parent, const QString &page, bool wait = false)
+{
+    QString qch = dataPath(QStringLiteral("help/CommonGUI.qch"));
+    if (!QFileInfo::exists(qch))
+        qch = dataPath(QStringLiteral("../share/doc/qch/CommonGUI.qch"));
+    if (!QFileInfo::exists(qch))
+        return nullptr;
+    qch = QFileInfo(qch).canonicalFilePath();
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(folder);
+    const QString collection = folder + QStringLiteral("/api-reference.qhc");
+    {
+        QHelpEngineCore core(collection);
+        core.setupData();
+        const QString name = QHelpEngineCore::namespaceName(qch);
+        if (core.documentationFileName(name) != qch) {
+            core.unregisterDocumentation(name);
+            core.registerDocumentation(qch);
+        }
+    }
+    auto viewer = new HelpViewer(parent);
+    viewer->setWindowTitle(QObject::tr("CommonGUI API Reference"));
+    viewer->setAttribute(Qt::WA_DeleteOnClose);
+    viewer->resize(1000, 640);
+    viewer->setHelpFile(collection);
+    const QUrl url(QStringLiteral("qthelp://com.korvil.commongui/commongui/") + page);
+    viewer->onDocumentActivated(QHelpLink { url, QString() }, QString());
+    auto engine = viewer->findChild<QHelpEngine *>();
+    if (!engine)
+        return viewer;
+    QObject::connect(engine->contentModel(), &QHelpContentModel::contentsCreated, viewer,
+                     [engine] { engine->contentWidget()->expandToDepth(0); });
+    QElapsedTimer waited;
+    waited.start();
+    while (wait && engine->contentModel()->rowCount() == 0 && waited.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    engine->contentWidget()->expandToDepth(0);
     return viewer;
 }
 
@@ -262,6 +305,14 @@ static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("De
         window->log(QObject::tr("No PDF manuals in %1").arg(dataPath(QStringLiteral("manuals"))));
     }
 
+    QAction *api = help->addAction(QObject::tr("CommonGUI &API Reference..."));
+    QObject::connect(api, &QAction::triggered, window, [window] {
+        if (HelpViewer *viewer = createApiReference(window, QStringLiteral("index.html")))
+            viewer->show();
+        else
+            window->log(QObject::tr("The API reference CommonGUI.qch was not built"));
+    });
+
     help->addSeparator();
     QAction *tips = help->addAction(QIcon(QStringLiteral(":/data/icons/questionmark.png")), QObject::tr("&Tip of the Day..."));
     QObject::connect(tips, &QAction::triggered, window, [window] { showTips(false, window); });
@@ -280,6 +331,12 @@ static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("De
         HelpViewer *viewer = createHelpViewer(nullptr, true);
         viewer->setAttribute(Qt::WA_DeleteOnClose, false);
         return viewer;
+    });
+    window->addScreenshot(QStringLiteral("api-reference"), [] {
+        HelpViewer *viewer = createApiReference(nullptr, QStringLiteral("classQHexEdit.html"), true);
+        if (viewer)
+            viewer->setAttribute(Qt::WA_DeleteOnClose, false);
+        return static_cast<QWidget *>(viewer);
     });
     window->addScreenshot(QStringLiteral("help-dialog"), [] {
         auto dialog = new HelpViewerDialog;

@@ -429,6 +429,18 @@
         <translation>&amp;Hilfeinhalt...</translation>
     </message>
     <message>
+        <source>CommonGUI &amp;API Reference...</source>
+        <translation>CommonGUI-&amp;API-Referenz...</translation>
+    </message>
+    <message>
+        <source>CommonGUI API Reference</source>
+        <translation>CommonGUI-API-Referenz</translation>
+    </message>
+    <message>
+        <source>The API reference CommonGUI.qch was not built</source>
+        <translation>Die API-Referenz CommonGUI.qch wurde nicht erstellt</translation>
+    </message>
+    <message>
         <source>No help collection next to the tool</source>
         <translation>Keine Hilfesammlung neben dem Werkzeug</translation>
     </message>
