@@ -200,6 +200,12 @@ keys F4
 shot trace-searched
 keys alt+s Escape
 shot trace-status-kept
+keys ctrl+f
+type_text "no such frame"
+xdotool key Return
+sleep 1.2
+import -window root "$out/$(printf %02d $((step + 1)))-searching-box.png"; step=$((step + 1))
+sleep 8
 keys ctrl+q
 stopped || true
 
@@ -217,7 +223,12 @@ window "Knoten konfigurieren" >/dev/null
 shot german-configure-node
 keys Escape
 activate "CommonGUI Demo 0.9.0"
-keys ctrl+q
+keys alt+w h
+window "Hex-Editor" >/dev/null
+activate "Hex-Editor"
+keys alt+b
+shot german-hex-editor-menu
+keys Escape Escape ctrl+q
 stopped || true
 
 # --- Function trace resolves to demo functions ----------------------------

@@ -45,10 +45,9 @@ QString systemLanguage()
 
 void installTranslators(QCoreApplication &app, const QString &language)
 {
-    if (language == QLatin1String("en"))
-        return;
-    // The library's catalogue and Qt's own, then the demo's.
-    CommonGUITranslator::installTranslations(&app, QLocale(language));
+    // The library's catalogue and Qt's own, then the demo's (English: plural forms only).
+    if (language != QLatin1String("en"))
+        CommonGUITranslator::installTranslations(&app, QLocale(language));
     auto demo = new QTranslator(&app);
     if (demo->load(QStringLiteral("commongui-demo_") + language, QStringLiteral(":/demo/i18n")))
         app.installTranslator(demo);

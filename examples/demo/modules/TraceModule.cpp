@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -219,6 +220,15 @@ const char sampleC[] =
     "    log_printf(\"node %u is %s\", c->node, state_name(state));\n"
     "}\n";
 
+// Ctrl+F opens the viewer's search, as in every other window (its own key is "/").
+void addFindShortcut(FileViewerDialog *dialog)
+{
+    auto shortcut = new QShortcut(QKeySequence::Find, dialog);
+    QObject::connect(shortcut, &QShortcut::activated, dialog, [dialog] {
+        QMetaObject::invokeMethod(dialog, "on_actionOpenSearchDialog_triggered");
+    });
+}
+
 FileViewerDialog *sampleViewer()
 {
     auto dir = new QTemporaryDir;
@@ -244,6 +254,7 @@ static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("De
             return;
         auto dialog = new FileViewerDialog(path, window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
+        addFindShortcut(dialog);
         dialog->resize(720, 540);
         dialog->show();
         window->log(QObject::tr("Viewing %1").arg(path));
