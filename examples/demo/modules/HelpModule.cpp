@@ -305,7 +305,7 @@ static DemoModuleRegistrar registrar({ QString::fromLatin1(QT_TRANSLATE_NOOP("De
         window->log(QObject::tr("No PDF manuals in %1").arg(dataPath(QStringLiteral("manuals"))));
     }
 
-    QAction *api = help->addAction(QObject::tr("CommonGUI &API Reference..."));
+    QAction *api = help->addAction(QObject::tr("CommonGUI API &Reference..."));
     QObject::connect(api, &QAction::triggered, window, [window] {
         if (HelpViewer *viewer = createApiReference(window, QStringLiteral("index.html")))
             viewer->show();

@@ -429,10 +429,6 @@
         <translation>&amp;Hilfeinhalt...</translation>
     </message>
     <message>
-        <source>CommonGUI &amp;API Reference...</source>
-        <translation>CommonGUI-&amp;API-Referenz...</translation>
-    </message>
-    <message>
         <source>CommonGUI API Reference</source>
         <translation>CommonGUI-API-Referenz</translation>
     </message>
@@ -699,6 +695,10 @@
     <message>
         <source>No crash reports are waiting</source>
         <translation>Es warten keine Absturzberichte</translation>
+    </message>
+    <message>
+        <source>CommonGUI API &amp;Reference...</source>
+        <translation>CommonGUI-API-&amp;Referenz...</translation>
     </message>
 </context>
 <context>
