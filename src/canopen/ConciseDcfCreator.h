@@ -54,9 +54,11 @@ public:
     // value, in index order. When a value cannot be encoded nothing is
     // written and errors() names each object and the reason.
     bool writeConciseDcf(const QString &outputName);
-    // The same for the file as `configure` sets it up: the DCF is made from a
-    // private copy, so the file stays as it is and no intermediate DCF is left
-    // behind, whether the export works or not.
+    /**
+     * Writes the concise form of the file as @p configure sets it up through a
+     * DCFWriter: the DCF is made from a private copy, so the file stays as it
+     * is and no intermediate DCF is left behind, whether the export works or not.
+     */
     bool writeConciseDcf(const QString &outputName, const std::function<void(DCFWriter &)> &configure);
     QStringList errors() const { return m_errors; }
     QString errorString() const { return m_errors.join(QLatin1Char('\n')); }
@@ -65,8 +67,11 @@ public:
 
     // Reads the binary form; false, with the reason, for truncated or
     // inconsistent input.
-    // Whether `value` can be written for the data type (range and syntax);
-    // nodeId resolves "$NODEID" and is -1 when unknown. On failure *reason says why.
+    /**
+     * Whether @p value can be written for @p dataType (range and syntax);
+     * @p nodeId resolves "$NODEID" and is -1 when unknown. On failure
+     * @p reason, when given, says why.
+     */
     static bool checkValue(int dataType, const QString &value, int nodeId, QString *reason);
 
     static bool readConciseDcf(const QByteArray &bytes, QList<ConciseEntry> *entries, QString *error);

@@ -54,11 +54,17 @@ public:
     // the current item stays and *index receives the item count, not -1.
     static bool setComboboxValue(QComboBox *combo, QVariant value, int *index);
 
-    // A window's size and position, and for a main window also its docks and tool
-    // bars, under "_windowGeometry" and "_windowState" in `group` (same store
-    // selection). Call the restore once the window's docks and tool bars exist.
+    /**
+     * Saves the size and position of @p window and, for a QMainWindow, the
+     * layout of its docks and tool bars, under the keys "_windowGeometry" and
+     * "_windowState" in @p group, with the same store selection as saveSettings().
+     */
     static void saveWindowState(QWidget *window, QString group, QString fileName, QSettings *settings);
-    // False, leaving the window as it is, when nothing was saved for `group`.
+    /**
+     * Restores what saveWindowState() saved; call it once the window's docks and
+     * tool bars exist. Returns false, leaving the window as it is, when nothing
+     * was saved for @p group.
+     */
     static bool restoreWindowState(QWidget *window, QString group, QString fileName,
                                    QSettings *settings);
 };
