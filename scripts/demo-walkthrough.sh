@@ -115,7 +115,12 @@ keys Return Tab
 shot tab-reaches-release-notes-link
 keys Return
 shot link-opened-with-keyboard
-# Notes: Tab leaves the field instead of inserting a tab character.
+# Notes (just before the EDS field in the Tab chain): Tab leaves it, no tab character.
+keys alt+e ctrl+a BackSpace shift+Tab
+type_text "notes"
+keys Tab
+type_text "next.eds"
+shot tab-leaves-notes
 keys ctrl+f
 type_text "Module"
 keys Return
@@ -139,6 +144,8 @@ shot f1-from-hex-editor
 activate "Hex editor"
 keys ctrl+q
 check "Ctrl+Q in the hex editor ends the tool" stopped
+settings="$XDG_CONFIG_HOME/Korvil/CommonGUI Demo 0.9.0.conf"
+check "the notes were saved without a tab character" grep -qx 'txtNotes=notes' "$settings"
 
 # --- Window state: size and dock kept across a restart ---------------------
 start second
