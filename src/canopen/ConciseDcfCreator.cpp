@@ -136,7 +136,7 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
         hex.remove(QRegularExpression(QStringLiteral("\\s")));
         static const QRegularExpression hexOnly(QStringLiteral("^([0-9a-fA-F]{2})*$"));
         if (!hexOnly.match(hex).hasMatch()) {
-            *reason = QStringLiteral("value %1 is not a hex string of whole bytes for DOMAIN").arg(quoted);
+            *reason = ConciseDcfCreator::tr("value %1 is not a hex string of whole bytes for DOMAIN").arg(quoted);
             return false;
         }
         *out = QByteArray::fromHex(hex.toLatin1());
@@ -151,7 +151,7 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
     bool withNodeId = false;
     if (text.contains(nodeIdPattern())) {
         if (nodeId < 0) {
-            *reason = QStringLiteral("value %1 uses $NODEID but the file has no node id").arg(quoted);
+            *reason = ConciseDcfCreator::tr("value %1 uses $NODEID but the file has no node id").arg(quoted);
             return false;
         }
         withNodeId = true;
@@ -162,7 +162,7 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
         else if (text.endsWith(QLatin1Char('+')))
             text.chop(1);
         else if (!text.isEmpty()) {
-            *reason = QStringLiteral("value %1 is not a $NODEID formula").arg(quoted);
+            *reason = ConciseDcfCreator::tr("value %1 is not a $NODEID formula").arg(quoted);
             return false;
         }
         if (text.isEmpty())
@@ -175,7 +175,7 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
         quint64 bits = 0;
         if (!withNodeId && parseNumber(text, &negative, &bits, &raw) && raw) {
             if (type.bytes == 4 && bits > 0xFFFFFFFFull) {
-                *reason = QStringLiteral("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
+                *reason = ConciseDcfCreator::tr("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
                 return false;
             }
             *out = littleEndian(bits, type.bytes);
@@ -184,12 +184,12 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
         bool ok = false;
         const double number = text.toDouble(&ok);
         if (withNodeId || !ok || !std::isfinite(number)) {
-            *reason = QStringLiteral("value %1 cannot be read as %2").arg(quoted, QLatin1String(type.name));
+            *reason = ConciseDcfCreator::tr("value %1 cannot be read as %2").arg(quoted, QLatin1String(type.name));
             return false;
         }
         if (type.bytes == 4) {
             if (std::fabs(number) > double(FLT_MAX)) {
-                *reason = QStringLiteral("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
+                *reason = ConciseDcfCreator::tr("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
                 return false;
             }
             const float f = float(number);
@@ -207,14 +207,14 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
     bool negative = false, raw = false;
     quint64 magnitude = 0;
     if (!parseNumber(text, &negative, &magnitude, &raw)) {
-        *reason = QStringLiteral("value %1 cannot be read as %2").arg(quoted, QLatin1String(type.name));
+        *reason = ConciseDcfCreator::tr("value %1 cannot be read as %2").arg(quoted, QLatin1String(type.name));
         return false;
     }
     const int bits = type.bytes * 8;
     const quint64 max = bits == 64 ? ~quint64(0) : (quint64(1) << bits) - 1;
     if (withNodeId) {
         if (negative || magnitude > max - offset) {
-            *reason = QStringLiteral("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
+            *reason = ConciseDcfCreator::tr("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
             return false;
         }
         magnitude += offset;
@@ -232,7 +232,7 @@ bool encode(const QString &value, const TypeInfo &type, int nodeId, QByteArray *
             pattern = (~magnitude + 1) & max;
     }
     if (!inRange) {
-        *reason = QStringLiteral("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
+        *reason = ConciseDcfCreator::tr("value %1 is out of range for %2").arg(quoted, QLatin1String(type.name));
         return false;
     }
     *out = littleEndian(pattern, type.bytes);
