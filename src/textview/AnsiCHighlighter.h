@@ -14,16 +14,26 @@
 class QTextDocument;
 namespace CommonGUIPrivate { class RuleScanner; }
 
-// Rule-based colouring of C sources and headers.
+/**
+ * A syntax highlighter for C sources and headers: keywords, type names,
+ * function names, strings, preprocessor lines and comments, also comments that
+ * span several lines.
+ *
+ * Create it on a QTextDocument, which then owns it; FileViewerDialog uses it for
+ * files ending in ".c" and ".h".
+ */
 class COMMONGUI_EXPORT AnsiCHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
 
 public:
+    /** Constructs the highlighter on @p parent, which owns it, and colours the document. */
     explicit AnsiCHighlighter(QTextDocument *parent);
+    /** Destroys the highlighter; the document keeps its text without the colours. */
     ~AnsiCHighlighter() override;
 
 protected:
+    /** Colours one line (block) of the document, @p text, by the rule table. */
     void highlightBlock(const QString &text) override;
 
 private:

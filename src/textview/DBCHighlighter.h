@@ -14,16 +14,26 @@
 class QTextDocument;
 namespace CommonGUIPrivate { class RuleScanner; }
 
-// Rule-based colouring of CAN database (DBC) files.
+/**
+ * A syntax highlighter for CAN database (DBC) files: the section keywords
+ * (BO_, SG_, CM_, ...), the J1939 words, quoted strings and lines starting with
+ * "#".
+ *
+ * Create it on a QTextDocument, which then owns it; FileViewerDialog uses it for
+ * files ending in ".dbc".
+ */
 class COMMONGUI_EXPORT DBCHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
 
 public:
+    /** Constructs the highlighter on @p parent, which owns it, and colours the document. */
     explicit DBCHighlighter(QTextDocument *parent);
+    /** Destroys the highlighter; the document keeps its text without the colours. */
     ~DBCHighlighter() override;
 
 protected:
+    /** Colours one line (block) of the document, @p text, by the rule table. */
     void highlightBlock(const QString &text) override;
 
 private:

@@ -14,16 +14,26 @@
 class QTextDocument;
 namespace CommonGUIPrivate { class RuleScanner; }
 
-// Rule-based colouring of CANopen EDS and DCF files.
+/**
+ * A syntax highlighter for CANopen EDS and DCF files: section headers, the
+ * object keys (ParameterName, DataType, ...), the keys only a configured
+ * device file carries (Denotation, ParameterValue), quoted text and ";" comments.
+ *
+ * Create it on a QTextDocument, which then owns it; FileViewerDialog uses it for
+ * files ending in ".eds" and ".dcf".
+ */
 class COMMONGUI_EXPORT EdsHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
 
 public:
+    /** Constructs the highlighter on @p parent, which owns it, and colours the document. */
     explicit EdsHighlighter(QTextDocument *parent);
+    /** Destroys the highlighter; the document keeps its text without the colours. */
     ~EdsHighlighter() override;
 
 protected:
+    /** Colours one line (block) of the document, @p text, by the rule table. */
     void highlightBlock(const QString &text) override;
 
 private:

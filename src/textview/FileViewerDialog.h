@@ -11,18 +11,35 @@
 class QFileSystemWatcher;
 namespace Ui { class FileViewerDialog; }
 
-// Shows one text file read-only, coloured by the highlighter its complete
-// suffix selects, and reloads it whenever it changes on disk.
+/**
+ * A dialog that shows one text file read-only, coloured by the highlighter its
+ * suffix selects, and reloads it whenever it changes on disk.
+ *
+ * The highlighter is chosen by everything after the first dot of the file name,
+ * case-sensitively: "c" and "h" (AnsiCHighlighter), "eds" and "dcf"
+ * (EdsHighlighter), "txt" (PlcHighlighter), "xml" (XMLHighlighter), "dbc"
+ * (DBCHighlighter); other files are shown plain, so x.tar.eds is not coloured.
+ * The file is read as UTF-8. Ctrl++ and Ctrl+- zoom, "/" focuses the search
+ * line, "n" and "b" find the next and previous match, and "Open Folder" opens
+ * the file's folder in the desktop's file manager. A file that cannot be read
+ * shows "Error <path> is not readable." instead of its text.
+ */
 class COMMONGUI_EXPORT FileViewerDialog : public QDialog
 {
     Q_OBJECT
 
 public:
+    /**
+     * Constructs the dialog on the file at @p filePath and loads it; the window
+     * title is "File Viewer - " and the path (for a resource path, the file
+     * name up to its first dot).
+     */
     explicit FileViewerDialog(QString filePath, QWidget *parent = nullptr);
+    /** Destroys the dialog and stops watching the file. */
     ~FileViewerDialog() override;
 
 public Q_SLOTS:
-    // Point size for the text; the file is reloaded so that all of it takes the size.
+    /** Sets the text's point size to @p size and reloads the file so that all of it takes the size. */
     void setTextSize(double size);
 
 private Q_SLOTS:

@@ -14,16 +14,25 @@
 class QTextDocument;
 namespace CommonGUIPrivate { class RuleScanner; }
 
-// Rule-based colouring of IEC 61131 variable declarations.
+/**
+ * A syntax highlighter for IEC 61131 variable declarations of PLC programs:
+ * keywords, data types and comments.
+ *
+ * Create it on a QTextDocument, which then owns it; FileViewerDialog uses it for
+ * files ending in ".txt".
+ */
 class COMMONGUI_EXPORT PlcHighlighter : public QSyntaxHighlighter
 {
     Q_OBJECT
 
 public:
+    /** Constructs the highlighter on @p parent, which owns it, and colours the document. */
     explicit PlcHighlighter(QTextDocument *parent);
+    /** Destroys the highlighter; the document keeps its text without the colours. */
     ~PlcHighlighter() override;
 
 protected:
+    /** Colours one line (block) of the document, @p text, by the rule table. */
     void highlightBlock(const QString &text) override;
 
 private:
