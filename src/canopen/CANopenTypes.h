@@ -8,14 +8,22 @@
 #include <QMap>
 #include <QString>
 
+/**
+ * \file CANopenTypes.h
+ * The names of CANopen message types and CAN error kinds, the CAN FD payload
+ * sizes, the object-dictionary data types and object codes, and the library's
+ * version.
+ */
+
 namespace CommonGUI {
-// The library's version, for tools that show what they were built against.
+/** The library's version, such as "0.9.0", for tools that show what they run with. */
 COMMONGUI_EXPORT extern QString version;
 }
 
+/** CAN and CANopen names that data sheets and tools share. */
 namespace CAN {
 
-// Object-dictionary data-type indices; written as numbers into data sheets.
+/** The object-dictionary data-type indices (CiA 301), written as numbers into data sheets. */
 enum CANopenDataType : unsigned short {
     BOOLEAN = 0x0001,
     INTEGER8 = 0x0002,
@@ -46,9 +54,10 @@ enum CANopenDataType : unsigned short {
 
 }
 
+/** CANopen object codes and message types. */
 namespace CANopen {
 
-// Object codes of the object dictionary; written as numbers into "ObjectType".
+/** The object codes of the object dictionary, written as numbers into "ObjectType". */
 enum ObjectCode : unsigned char {
     NULL_OBJECT = 0x0,
     DOMAIN_OBJECT = 0x2,
@@ -59,6 +68,7 @@ enum ObjectCode : unsigned char {
     RECORD = 0x9
 };
 
+/** The kinds of CANopen message a trace shows; messageTypeNames gives their display names. */
 enum MessageType {
     UNKNOWN = 0,
     SDO_REQ = 1,
@@ -85,6 +95,7 @@ enum MessageType {
 }
 
 // Per-file copies on purpose: tools include this header wherever they name events.
+/** The display names of the CAN error kinds 1 to 8, such as 1 "Stuff error". */
 static const QMap<unsigned char, QString> canErrorNames = {
     { 1, QStringLiteral("Stuff error") },
     { 2, QStringLiteral("Form error") },
@@ -96,10 +107,11 @@ static const QMap<unsigned char, QString> canErrorNames = {
     { 8, QStringLiteral("unspecified error") },
 };
 
-// Payload sizes of the CAN FD length codes 9 to 15.
+/** The payload sizes in bytes of the CAN FD length codes 9 to 15, in that order. */
 static const QList<unsigned char> canFdDataLengths = { 12, 16, 20, 24, 32, 48, 64 };
 
 // The repeated EMCY rows are historical; later insertions replace earlier ones.
+/** The display names of the CANopen message types: the enumerator's name, such as "SDO_REQ". */
 static const QMap<CANopen::MessageType, QString> messageTypeNames = {
     { CANopen::UNKNOWN, QStringLiteral("UNKNOWN") },
     { CANopen::SDO_REQ, QStringLiteral("SDO_REQ") },
