@@ -77,6 +77,9 @@ void tst_ApiReference::memberKeyword_data()
     QTest::newRow("property") << "CustomLineEdit::acceptedSuffixes";
     QTest::newRow("nested struct member") << "TipOfTheDay::TipStruct::image";
     QTest::newRow("namespace function") << "CommonGUI::updateServerUrl";
+    QTest::newRow("hex editor slot") << "QHexEdit::setData";
+    QTest::newRow("hex editor signal") << "QHexEdit::dataChanged";
+    QTest::newRow("settings helper") << "GuiHelper::saveSettings";
 }
 
 // Qt Creator's F1 on a member looks up "Class::member".
