@@ -102,6 +102,34 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
         <source>Inconsistent concise DCF: %1 bytes after the last entry</source>
         <translation>Inkonsistente Concise-DCF: %1 Bytes nach dem letzten Eintrag</translation>
     </message>
+    <message>
+        <source>value %1 is not a hex string of whole bytes for DOMAIN</source>
+        <translation>Wert %1 ist keine Hex-Zeichenkette aus ganzen Bytes für DOMAIN</translation>
+    </message>
+    <message>
+        <source>value %1 uses $NODEID but the file has no node id</source>
+        <translation>Wert %1 verwendet $NODEID, aber die Datei hat keine Knotennummer</translation>
+    </message>
+    <message>
+        <source>value %1 is not a $NODEID formula</source>
+        <translation>Wert %1 ist keine $NODEID-Formel</translation>
+    </message>
+    <message>
+        <source>value %1 is out of range for %2</source>
+        <translation>Wert %1 liegt außerhalb des Bereichs von %2</translation>
+    </message>
+    <message>
+        <source>value %1 cannot be read as %2</source>
+        <translation>Wert %1 kann nicht als %2 gelesen werden</translation>
+    </message>
+    <message>
+        <source>Cannot read %1</source>
+        <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>data type 0x%1 is not supported</source>
+        <translation>Datentyp 0x%1 wird nicht unterstützt</translation>
+    </message>
 </context>
 <context>
     <name>DCFWriter</name>
@@ -116,6 +144,17 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <message>
         <source>sub%2</source>
         <translation>sub%2</translation>
+    </message>
+    <message>
+        <source>the file could not be read</source>
+        <translation>die Datei konnte nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>DataSheet</name>
+    <message>
+        <source>the data type &quot;%1&quot; is not a number</source>
+        <translation>der Datentyp &quot;%1&quot; ist keine Zahl</translation>
     </message>
 </context>
 <context>
@@ -236,6 +275,73 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     </message>
 </context>
 <context>
+    <name>HexFindBar</name>
+    <message>
+        <source>&amp;Wrap</source>
+        <translation>&amp;Umbrechen</translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>&amp;Groß-/Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Hex</source>
+        <translation>Hex</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Vorheriges suchen (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Nächstes suchen (F3)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>Go to:</source>
+        <translation>Gehe zu:</translation>
+    </message>
+    <message>
+        <source>Bytes, as hex or text</source>
+        <translation>Bytes, als Hex oder Text</translation>
+    </message>
+    <message>
+        <source>1f00, 0x1f00, #7936 decimal, +10, -0x20</source>
+        <translation>1f00, 0x1f00, #7936 dezimal, +10, -0x20</translation>
+    </message>
+    <message>
+        <source>not hex</source>
+        <translation>kein Hex</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>no such address</source>
+        <translation>Adresse gibt es nicht</translation>
+    </message>
+</context>
+<context>
     <name>QApplication</name>
     <message>
         <source>Out of memory</source>
@@ -275,6 +381,65 @@ Erstellt mit Qt %2, läuft mit Qt %3</translation>
     <message>
         <source>Paste</source>
         <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>The editor is read-only</source>
+        <translation>Der Editor ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Not a Latin-1 character</source>
+        <translation>Kein Latin-1-Zeichen</translation>
+    </message>
+    <message>
+        <source>Not a hex digit</source>
+        <translation>Keine Hexziffer</translation>
+    </message>
+    <message>
+        <source>The data has reached its maximum size</source>
+        <translation>Die Daten haben ihre Höchstgröße erreicht</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n byte(s) fit</source>
+        <translation>
+            <numerusform>Nur %n Byte passt</numerusform>
+            <numerusform>Nur %n Bytes passen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The clipboard is empty</source>
+        <translation>Die Zwischenablage ist leer</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no hex bytes</source>
+        <translation>Die Zwischenablage enthält keine Hex-Bytes</translation>
+    </message>
+    <message>
+        <source>The clipboard text is not Latin-1</source>
+        <translation>Der Text in der Zwischenablage ist nicht Latin-1</translation>
+    </message>
+    <message>
+        <source>Not an address: %1</source>
+        <translation>Keine Adresse: %1</translation>
+    </message>
+    <message>
+        <source>Address out of range: %1</source>
+        <translation>Adresse außerhalb des Bereichs: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Address...</source>
+        <translation>&amp;Gehe zu Adresse...</translation>
     </message>
 </context>
 <context>
