@@ -5,6 +5,8 @@
 // the entries the creator reports.
 #include "ConciseDcfCreator.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -13,7 +15,9 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
 {
-    static QTemporaryDir dir;
+    // Memory-backed when there is such a folder: every run writes files.
+    static QTemporaryDir dir(QDir(QStringLiteral("/dev/shm")).exists() ? QStringLiteral("/dev/shm/fuzz_concisedcf-XXXXXX")
+                                                                         : QDir::tempPath() + QStringLiteral("/fuzz_concisedcf-XXXXXX"));
     const QByteArray bytes(reinterpret_cast<const char *>(input), int(size));
 
     QList<ConciseDcfCreator::ConciseEntry> entries;
@@ -22,16 +26,19 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     if (ConciseDcfCreator::readConciseDcf(bytes, &entries, &error) != error.isEmpty())
         abort();
 
-    // New names every run: QSettings caches a file it has seen by name, size and time.
-    static int run = 0;
-    ++run;
-    const QString sheet = dir.filePath(QStringLiteral("sheet%1.dcf").arg(run));
-    const QString output = dir.filePath(QStringLiteral("out%1.bin").arg(run));
+    // One file name for every run, so that no run leaves a cache entry behind (which
+    // would send libFuzzer hunting for leaks after each run); a time stamp of its
+    // own per run makes QSettings read it anew all the same.
+    static const QString sheet = dir.filePath(QStringLiteral("sheet.dcf"));
+    static const QString output = dir.filePath(QStringLiteral("out.bin"));
+    static qint64 stamp = 0;
     {
         QFile file(sheet);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
             abort();
         file.write(bytes);
+        file.flush();  // written now, or closing would stamp it with the time of day
+        file.setFileTime(QDateTime::fromMSecsSinceEpoch(1000000000000 + 1000 * ++stamp), QFileDevice::FileModificationTime);
     }
     QFile::remove(output);
 
@@ -60,7 +67,5 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     } else if (creator.errors().isEmpty()) {
         abort();
     }
-    QFile::remove(sheet);
-    QFile::remove(output);
     return 0;
 }
