@@ -36,7 +36,7 @@ int runChild(const QString &fileName, const QString &mode)
     writer.setParameterValue(0x2000, 0, QStringLiteral("child"), QString());
     if (mode == QLatin1String("loop")) {
         // Queued after the writer's own save: printed once that has run.
-        QMetaObject::invokeMethod(qApp, [] {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [] {
             printf("edited\n");
             fflush(stdout);
         }, Qt::QueuedConnection);
