@@ -48,23 +48,27 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     file.close();
 
     // Building the dialog costs far more than reading a file into it: one
-    // dialog reads many inputs in turn (its tips pile up, as reading the file
-    // again does), and a new one comes before they grow large.
+    // dialog reads inputs in turn (its tips pile up, as reading a file again
+    // does) until this input's tips would lie beyond what an 8-bit index reaches.
     static std::unique_ptr<TipOfTheDay> tips;
-    static int lines = 0;
-    const unsigned char last = size ? input[0] : 0;
-    const int added = int(QByteArray::fromRawData(reinterpret_cast<const char *>(input), int(size)).count('\n')) + 1;
-    if (!tips || lines + added > 4096) {
+    static int count = 0;
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(input), int(size));
+    // One tip per line read; a last line without a break counts too.
+    const int added = int(bytes.count('\n')) + (bytes.isEmpty() || bytes.endsWith('\n') ? 0 : 1);
+    const unsigned char pick = size ? input[0] : 0;
+    int first = count;
+    if (!tips || count + added > 256) {
         tips.reset();
-        tips = std::make_unique<TipOfTheDay>(path, true, last);
-        lines = added;
+        tips = std::make_unique<TipOfTheDay>(path, true, pick);
+        first = 0;
+        count = added;
     } else {
         tips->parseTipFile();
-        lines += added;
+        count += added;
     }
-    // Forward once and back twice from the tip the input names: both steps and,
-    // from either end, both wrap-arounds.
-    tips->showNewTip(last);
+    // One of this input's tips, then forward once and back twice: both steps
+    // and, from either end, both wrap-arounds.
+    tips->showNewTip(static_cast<unsigned char>(first + (added ? pick % added : 0)));
     tips->on_btnNext_clicked();
     tips->on_btnPrev_clicked();
     tips->on_btnPrev_clicked();
