@@ -38,6 +38,9 @@ QHexEdit::QHexEdit(QWidget *parent)
 
 QHexEdit::~QHexEdit()
 {
+    // The bar reports its hiding, which must not reach a half-destroyed editor.
+    if (d->bar)
+        d->bar->disconnect(this);
     delete d;
 }
 
