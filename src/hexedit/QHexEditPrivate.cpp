@@ -112,14 +112,15 @@ void QHexEditPrivate::publish()
 void QHexEditPrivate::setData(const QByteArray &data)
 {
     ChangeScope scope(this);
+    m_settingData = true;
+    buffer.setData(data);
     // Unless the host fixed the count, every byte handed over is shown, also
-    // beyond the buffer's default of 0xffffff.
+    // beyond the buffer's default of 0xffffff. Set after the data, so that the
+    // old bytes are not padded first.
     if (!bytesEnabledSet && data.size() > buffer.bytesEnabled())
         buffer.setBytesEnabled(std::min(data.size(), hexLargestSize));
     else if (data.size() > hexLargestSize && buffer.bytesEnabled() > hexLargestSize)
         buffer.setBytesEnabled(hexLargestSize);
-    m_settingData = true;
-    buffer.setData(data);
     undoStack->clear();
     m_lastIndex = 0;
     m_settingData = false;
