@@ -2,12 +2,60 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "KorvilAppStyle.h"
 
+#include <QApplication>
+#include <QScreen>
 #include <QStyleFactory>
+#include <QWidget>
+
+#include <cmath>
+
+namespace {
+
+// Metrics are designed for 96 DPI; a screen set to more gets proportionally more.
+int scaled(int value, const QWidget *widget)
+{
+    qreal dpi = 96;
+    if (widget)
+        dpi = widget->logicalDpiY();
+    else if (const QScreen *screen = QGuiApplication::primaryScreen())
+        dpi = screen->logicalDotsPerInchY();
+    return std::max(1, int(std::lround(value * std::max<qreal>(dpi, 96) / 96)));
+}
+
+qreal luminance(const QColor &c)
+{
+    const auto channel = [](qreal v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) + 0.0722 * channel(c.blueF());
+}
+
+// Dark, or text and background further apart than the family palette's 15:1.
+bool isDarkOrHighContrast(const QPalette &palette)
+{
+    const QColor base = palette.color(QPalette::Base);
+    const QColor window = palette.color(QPalette::Window);
+    if (base.lightness() < 128 || window.lightness() < 128)
+        return true;
+    const qreal a = luminance(palette.color(QPalette::Text));
+    const qreal b = luminance(base);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05) >= 18;
+}
+
+}
 
 KorvilAppStyle::KorvilAppStyle()
     : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
     setObjectName(QStringLiteral("KorvilAppStyle"));
+}
+
+bool KorvilAppStyle::keepsDesktopPalette() const
+{
+    return m_keepDesktopPalette;
+}
+
+void KorvilAppStyle::setKeepDesktopPalette(bool keep)
+{
+    m_keepDesktopPalette = keep;
 }
 
 int KorvilAppStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
@@ -16,23 +64,23 @@ int KorvilAppStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     switch (metric) {
     case PM_SmallIconSize:
     case PM_ButtonIconSize:
-        return 16;
+        return scaled(16, widget);
     case PM_ToolBarIconSize:
-        return 20;
+        return scaled(20, widget);
     case PM_LargeIconSize:
-        return 32;
+        return scaled(32, widget);
     case PM_MessageBoxIconSize:
-        return 40;
+        return scaled(40, widget);
     case PM_ScrollBarExtent:
-        return 14;
+        return scaled(14, widget);
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
-        return 6;
+        return scaled(6, widget);
     case PM_LayoutLeftMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
-        return 9;
+        return scaled(9, widget);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -88,5 +136,7 @@ QPalette KorvilAppStyle::standardPalette() const
 
 void KorvilAppStyle::polish(QPalette &palette)
 {
+    if (m_keepDesktopPalette && isDarkOrHighContrast(palette))
+        return;
     palette = standardPalette();
 }
