@@ -38,6 +38,11 @@ int main(int argc, char **argv)
             changed += edit->isByteChanged(i);
         edit->window()->setWindowModified(changed > 0);
     });
+    // Refused input (a non-hex key, a full image, a paste of plain text) is told, not lost.
+    QObject::connect(edit, &QHexEdit::inputRefused, status, &QLabel::setText);
+    // Jump to the node's serial-number record, if the image has one.
+    if (edit->find(QByteArrayLiteral("SN:"), QHexEdit::FindWrapAround))
+        status->setText(QStringLiteral("serial number at 0x%1").arg(edit->selectionStart() + edit->addressOffset(), 4, 16));
     window.setWindowTitle(QStringLiteral("EEPROM[*]"));
     window.show();
 
