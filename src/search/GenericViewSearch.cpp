@@ -71,15 +71,12 @@ void GenericViewSearch::searchSingleOccurrence(QString text)
         searchResult(NotFound);
         return;
     }
-    QModelIndex start;
-    if (m_view && m_view->selectionModel()) {
-        const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
-        if (!selected.isEmpty())
-            start = selected.first();
-    }
     m_currentRow = 0;
     if (text == m_lastSearchText && !m_foundIndices.isEmpty() && jumpToNextIndex())
         return;
+    // Only a real scan needs the start: stepping through kept hits must not
+    // cost as much as the selection they made.
+    const QModelIndex start = firstSelectedIndex();
 
     m_foundIndices.clear();
     m_lastMatchRow = -1;
@@ -251,6 +248,27 @@ void GenericViewSearch::forgetHitsOfOtherModel()
         forgetHits();
 }
 
+// What selectedIndexes().first() gives, without listing every selected cell.
+QModelIndex GenericViewSearch::firstSelectedIndex() const
+{
+    if (!m_view || !m_view->selectionModel())
+        return QModelIndex();
+    for (const QItemSelectionRange &range : m_view->selectionModel()->selection()) {
+        const QAbstractItemModel *model = range.model();
+        if (!range.isValid() || !model)
+            continue;
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            for (int column = range.left(); column <= range.right(); ++column) {
+                const QModelIndex index = model->index(row, column, range.parent());
+                const Qt::ItemFlags flags = model->flags(index);
+                if ((flags & Qt::ItemIsSelectable) && (flags & Qt::ItemIsEnabled))
+                    return index;
+            }
+        }
+    }
+    return QModelIndex();
+}
+
 void GenericViewSearch::handleFoundIndex()
 {
     if (m_searching)
@@ -287,15 +305,15 @@ void GenericViewSearch::handleFoundIndices()
     const QAbstractItemModel *model = m_view->model();
     if (!model)
         return;
-    const auto flags = QItemSelectionModel::Select | QItemSelectionModel::Current
-                       | QItemSelectionModel::Rows;
     selection->clearSelection();
     m_view->setUpdatesEnabled(false);
+    // Each hit's row is gathered instead of selected one by one: every select()
+    // with Current replaces the one before, so only the gathered selection
+    // below stays, and one change signal replaces one per hit.
     QItemSelection gathered;
     for (const QModelIndex &index : qAsConst(m_foundIndices)) {
         if (!index.isValid())
             continue;
-        selection->select(index, flags);
         const QModelIndex parent = index.parent();
         const int lastColumn = qMax(0, model->columnCount(parent) - 1);
         // Consecutive rows of one parent share a range: same selection, fewer ranges.

@@ -149,6 +149,7 @@ private:
     void watchModel(QAbstractItemModel *model);
     void forgetHits();
     void forgetHitsOfOtherModel();
+    QModelIndex firstSelectedIndex() const;
 
     QPointer<QLineEdit> m_lineEdit;
     QPointer<QPushButton> m_findButton;
