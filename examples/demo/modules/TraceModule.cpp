@@ -7,6 +7,7 @@
 #include "CANopenTypes.h"
 #include "FileViewerDialog.h"
 #include "GenericViewSearch.h"
+#include "TraceText.h"
 
 #include <QAbstractTableModel>
 #include <QAction>
@@ -85,8 +86,11 @@ public:
         if (!index.isValid())
             return QVariant();
         const Frame f = frame(index.row());
-        if (role == GenericViewSearch::SearchRole && index.column() == 0)
-            return QStringLiteral("%1 %2 %3 %4 %5").arg(time(f), id(f), messageTypeName(f.cobId, f.data[0])).arg(f.length).arg(bytes(f));
+        if (role == GenericViewSearch::SearchRole && index.column() == 0) {
+            // Read for every row by each search: one reused buffer, no arg() chain.
+            writeTraceSearchText(m_searchText, f.micros, f.cobId, messageTypeName(f.cobId, f.data[0]), f.length, f.data);
+            return m_searchText;
+        }
         if (role == Qt::TextAlignmentRole)
             return index.column() == Data ? int(Qt::AlignLeft | Qt::AlignVCenter) : int(Qt::AlignRight | Qt::AlignVCenter);
         if (role != Qt::DisplayRole)
@@ -142,6 +146,7 @@ private:
     }
 
     int m_frames;
+    mutable QString m_searchText;
 };
 
 class TraceWindow : public QMainWindow
