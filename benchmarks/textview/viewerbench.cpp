@@ -11,7 +11,6 @@
 #include <QSyntaxHighlighter>
 #include <QTemporaryDir>
 #include <QTextEdit>
-#include <QTextStream>
 
 #include <cstdio>
 
@@ -62,10 +61,8 @@ int main(int argc, char **argv)
         {
             QFile in(path);
             in.open(QIODevice::ReadOnly | QIODevice::Text);
-            QTextStream stream(&in);
-            stream.setCodec("UTF-8");
             QTextEdit edit;
-            edit.setPlainText(stream.readAll());
+            edit.setPlainText(QString::fromUtf8(in.readAll()));
             new NoOpHighlighter(edit.document());
             edit.resize(900, 700);
             edit.show();
