@@ -94,9 +94,13 @@ void tst_CommonGUITranslator::installTranslations()
     QVERIFY(installed.contains(QStringLiteral("commongui_de")));
     QCOMPARE(QCoreApplication::translate("TipOfTheDay", nextTip), germanNextTip);
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QString qtDir = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
     const QString qtDir = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
     if (!QFile::exists(qtDir + QStringLiteral("/qtbase_de.qm")))
-        QSKIP("Qt's German catalogues are not installed (qttranslations5-l10n)");
+        QSKIP("Qt's German catalogues are not installed (qttranslations5-l10n, qt6-translations-l10n)");
     QCOMPARE(installed, QStringList({QStringLiteral("commongui_de"), QStringLiteral("qtbase_de"),
                                      QStringLiteral("qt_help_de")}));
     // Qt's standard buttons follow.

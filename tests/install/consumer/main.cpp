@@ -10,7 +10,7 @@ int main(int argc, char **argv)
 {
     KorvilBaseApplication app(argc, argv, QStringLiteral("Consumer"), QStringLiteral("0.9"));
     qInstallMessageHandler(noMessageOutput);
-    std::printf("consumer ok %s\n", qPrintable(QCoreApplication::applicationVersion()));
+    std::printf("consumer ok %s Qt %s\n", qPrintable(QCoreApplication::applicationVersion()), qVersion());
     // The locale form QLocale::uiLanguages() gives must find the installed catalogue.
     CommonGUITranslator translator;
     if (translator.loadLanguage(QStringLiteral("de-DE")))
