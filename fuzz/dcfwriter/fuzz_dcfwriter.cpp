@@ -5,6 +5,7 @@
 // QSettings reader sees in the written file must equal what QSettings itself
 // holds after the same edits.
 #include "DCFWriter.h"
+#include "TextCompat_p.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -93,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     }
 
     QSettings reference(theirs, QSettings::IniFormat);
-    reference.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(reference);
     const QStringList keys = reference.allKeys();
     for (const QString &key : keys) {
         if (key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
@@ -114,7 +115,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
     }
 
     QSettings written(ours, QSettings::IniFormat);
-    written.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(written);
     const QStringList expected = reference.allKeys();
     const QStringList got = written.allKeys();
     if (expected != got)

@@ -3,6 +3,7 @@
 #include "DebugCrashHandler.h"
 
 #include "FunctionTrace_p.h"
+#include "TextCompat_p.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -129,7 +130,7 @@ void DebugCrashHandler::logDebugOutput(QtMsgType, const QString &msg)
                   date.month(), date.day(), time.hour(), time.minute(), time.second(),
                   time.msec());
     QTextStream out(m_logFile);
-    out.setCodec("UTF-8");
+    CommonGUICompat::useUtf8(out);
     out << stamp << "\t\t" << msg << "\n";
 }
 

@@ -6,6 +6,7 @@
 #include "DCFWriter.h"
 #include "DcfStorage_p.h"
 #include "IniDocument_p.h"
+#include "TextCompat_p.h"
 
 #include <QFile>
 #include <QMap>
@@ -259,7 +260,7 @@ bool ConciseDcfCreator::parseSectionForIndices(QVector<unsigned short> &indices,
 {
     if (!m_settings) {
         m_settings = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
-        m_settings->setIniCodec("UTF-8");
+        CommonGUICompat::useUtf8(*m_settings);
     }
     m_settings->beginGroup(section);
     bool ok = false;
@@ -296,7 +297,7 @@ bool ConciseDcfCreator::parseSectionForIndices(QVector<unsigned short> &indices,
 QVector<unsigned short> ConciseDcfCreator::prepare()
 {
     m_settings = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
-    m_settings->setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(*m_settings);
 
     QVector<unsigned short> indices;
     parseSectionForIndices(indices, QStringLiteral("MandatoryObjects"));

@@ -7,7 +7,6 @@
 #include <QRect>
 #include <QSaveFile>
 #include <QSize>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <functional>
@@ -146,7 +145,8 @@ QByteArray IniDocument::escapedValue(const QString &value)
             } else if (ch < 0x80) {
                 result += char(ch);
             } else {
-                result += QString::fromUcs4(&ch, 1).toUtf8();
+                const char32_t code = ch;
+                result += QString::fromUcs4(&code, 1).toUtf8();
             }
         }
     }
@@ -159,7 +159,6 @@ QByteArray IniDocument::escapedValue(const QString &value)
 
 QVariant IniDocument::parsedValue(const QByteArray &raw)
 {
-    static QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
     const char *str = raw.constData();
     const int to = raw.size();
     QString result;
@@ -260,7 +259,7 @@ QVariant IniDocument::parsedValue(const QByteArray &raw)
             int j = i + 1;
             while (j < to && str[j] != '\\' && str[j] != '"' && str[j] != ',')
                 ++j;
-            result += codec->toUnicode(str + i, j - i);
+            result += QString::fromUtf8(str + i, j - i);
             i = j;
         }
     }
@@ -287,12 +286,12 @@ QVariant IniDocument::typedValue(const QString &text)
         return text;
     if (text.endsWith(QLatin1Char(')'))) {
         if (text.startsWith(QLatin1String("@ByteArray(")))
-            return text.midRef(11, text.size() - 12).toLatin1();
+            return QStringView(text).mid(11, text.size() - 12).toLatin1();
         if (text.startsWith(QLatin1String("@String(")))
             return text.mid(8, text.size() - 9);
         if (text.startsWith(QLatin1String("@Variant(")) || text.startsWith(QLatin1String("@DateTime("))) {
             const bool dateTime = text.at(1) == QLatin1Char('D');
-            QByteArray bytes = text.midRef(dateTime ? 10 : 9).toLatin1();
+            QByteArray bytes = QStringView(text).mid(dateTime ? 10 : 9).toLatin1();
             QDataStream stream(&bytes, QIODevice::ReadOnly);
             stream.setVersion(dateTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
             QVariant result;

@@ -102,7 +102,11 @@ public:
     bool hasFormat(const QString &format) const override { return formats().contains(format); }
 
 protected:
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QVariant retrieveData(const QString &format, QMetaType type) const override
+#else
     QVariant retrieveData(const QString &format, QVariant::Type type) const override
+#endif
     {
         if (format == s_octetStream)
             return m_bytes;
@@ -232,7 +236,7 @@ bool QHexEditPrivate::putBytes(const QByteArray &bytes, const QString &undoText)
     const int maxSize = effectiveMaxSize();
     int end = start;
     if (overwrite) {
-        const int replaced = std::max(0, std::min(bytes.size(), size - start));
+        const int replaced = std::max(0, std::min(int(bytes.size()), size - start));
         const QByteArray appended = bytes.mid(replaced).left(std::max(0, maxSize - size));
         if (replaced == 0 && appended.isEmpty()) {
             refuse(QHexEdit::tr("The data has reached its maximum size"));

@@ -213,7 +213,11 @@ void QHexEditPrivate::mousePress(QMouseEvent *event)
 {
     if (!hexArea && !asciiArea)
         return;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QPointF pos = event->position() + QPointF(q->horizontalScrollBar()->value(), 0);
+#else
     const QPointF pos = event->localPos() + QPointF(q->horizontalScrollBar()->value(), 0);
+#endif
     const HexLayout::Hit hit = layout.hitTest(pos);
     const qint64 byte = (qint64(firstRow()) + hit.row) * s_bytesPerRow + hit.column;
     ChangeScope scope(this);

@@ -118,7 +118,7 @@ void QHexEditPrivate::setData(const QByteArray &data)
     // beyond the buffer's default of 0xffffff. Set after the data, so that the
     // old bytes are not padded first.
     if (!bytesEnabledSet && data.size() > buffer.bytesEnabled())
-        buffer.setBytesEnabled(std::min(data.size(), hexLargestSize));
+        buffer.setBytesEnabled(std::min(int(data.size()), hexLargestSize));
     else if (data.size() > hexLargestSize && buffer.bytesEnabled() > hexLargestSize)
         buffer.setBytesEnabled(hexLargestSize);
     undoStack->clear();
@@ -139,7 +139,7 @@ void QHexEditPrivate::bufferChanged()
     ++m_revision;
     // Grown past the enabled count by an edit: the count follows unless fixed.
     if (!bytesEnabledSet && buffer.data().size() > buffer.bytesEnabled())
-        buffer.setBytesEnabled(std::min(buffer.data().size(), hexLargestSize));
+        buffer.setBytesEnabled(std::min(int(buffer.data().size()), hexLargestSize));
     // Undo and redo, also from a host's actions, show where they changed the data.
     const int index = undoStack->index();
     if (index != m_lastIndex) {

@@ -60,7 +60,7 @@ void XByteArray::setData(QByteArray data)
 
 int XByteArray::size()
 {
-    return std::min(m_data.size(), m_bytesEnabled);
+    return std::min(int(m_data.size()), m_bytesEnabled);
 }
 
 int XByteArray::maxSize() const
@@ -199,7 +199,7 @@ XByteArray &XByteArray::replace(int index, int length, const QByteArray &ba)
     if (qint64(index) + length > m_data.length())
         len = m_data.length() - index;
     // A short ba must not shrink the data either.
-    len = std::min(len, ba.length());
+    len = std::min(len, int(ba.length()));
     if (index < 0 || len <= 0)
         return *this;
     std::memcpy(m_data.data() + index, ba.constData(), size_t(len));

@@ -7,6 +7,7 @@
 #include "DBCHighlighter.h"
 #include "EdsHighlighter.h"
 #include "PlcHighlighter.h"
+#include "TextCompat_p.h"
 #include "XMLHighlighter.h"
 
 #include <QCoreApplication>
@@ -36,7 +37,7 @@ FileViewerDialog::FileViewerDialog(QString filePath, QWidget *parent)
     // A folder passes the readable check but cannot be opened: same message.
     if (QFileInfo(filePath).isReadable() && file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         QTextStream stream(&file);
-        stream.setCodec("UTF-8");
+        CommonGUICompat::useUtf8(stream);
         // Always plain: setText would render a file that looks like HTML (a DOCTYPE, a leading tag).
         ui->txtViewer->setPlainText(stream.readAll());
         file.close();

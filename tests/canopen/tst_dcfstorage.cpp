@@ -6,6 +6,7 @@
 #include "ConciseDcfCreator.h"
 #include "DCFWriter.h"
 #include "TestFiles.h"
+#include "TextCompat_p.h"
 
 #include <QLockFile>
 #include <QProcess>
@@ -22,7 +23,7 @@ const QByteArray sheet = "[FileInfo]\nFileName=dev.eds\n\n[1000]\nParameterName=
 QString valueOf(const QString &fileName, const QString &key)
 {
     QSettings settings(fileName, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(settings);
     return settings.value(key, QStringLiteral("<absent>")).toString();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DCFWriter.h"
 #include "TestFiles.h"
+#include "TextCompat_p.h"
 
 #include <QtTest>
 
@@ -61,14 +62,14 @@ void tst_DCFWriter::initTestCase()
 QStringList tst_DCFWriter::keysOf(const QString &fileName)
 {
     QSettings settings(fileName, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(settings);
     return settings.allKeys();
 }
 
 QString tst_DCFWriter::valueOf(const QString &fileName, const QString &key)
 {
     QSettings settings(fileName, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(settings);
     return settings.value(key, QStringLiteral("<absent>")).toString();
 }
 
@@ -490,7 +491,7 @@ void tst_DCFWriter::editedRoundTrip()
     const QString theirs = writeSheet(editSheet);
     {
         QSettings settings(theirs, QSettings::IniFormat);
-        settings.setIniCodec("UTF-8");
+        CommonGUICompat::useUtf8(settings);
         settings.setValue("1a00sub1/ParameterValue", "0x60000208");
         settings.setValue("1a00sub1/Denotation", "Speed");
         settings.setValue("1A00sub2/ParameterValue", "2");

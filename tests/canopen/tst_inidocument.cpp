@@ -4,6 +4,7 @@
 // expected bytes, and what QSettings reads from the result.
 #include "IniDocument_p.h"
 #include "TestFiles.h"
+#include "TextCompat_p.h"
 
 #include <QtTest>
 
@@ -130,7 +131,7 @@ void tst_IniDocument::golden()
 
     const QString file = m_dir.write(expected);
     QSettings settings(file, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
+    CommonGUICompat::useUtf8(settings);
     IniDocument reread;
     reread.parse(expected);
     for (const QString &read : reads) {

@@ -26,17 +26,21 @@ static QChar code(const QTextCharFormat &format)
         return QLatin1Char(format.isEmpty() ? '.' : '?');
     const QBrush brush = format.foreground();
     if (brush.style() != Qt::SolidPattern || format.hasProperty(QTextFormat::BackgroundBrush)
-        || format.hasProperty(QTextFormat::FontFamily) || format.hasProperty(QTextFormat::FontPointSize))
+        || format.hasProperty(QTextFormat::FontFamilies) || format.hasProperty(QTextFormat::FontPointSize))
         return QLatin1Char('?');
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    if (format.hasProperty(QTextFormat::FontFamily))
+        return QLatin1Char('?');
+#endif
     const int weight = format.hasProperty(QTextFormat::FontWeight) ? format.fontWeight() : -1;
     const bool italic = format.fontItalic();
     struct Style { char code; Qt::GlobalColor colour; int weight; bool italic; };
     static const Style styles[] = {
-        { 'k', Qt::darkBlue, 75, false },   { 'n', Qt::darkBlue, 50, false },
-        { 'm', Qt::darkMagenta, 75, false }, { 'y', Qt::darkYellow, -1, false },
+        { 'k', Qt::darkBlue, QFont::Bold, false },   { 'n', Qt::darkBlue, QFont::Normal, false },
+        { 'm', Qt::darkMagenta, QFont::Bold, false }, { 'y', Qt::darkYellow, -1, false },
         { 'g', Qt::darkGreen, -1, false },  { 'f', Qt::blue, -1, true },
-        { 'p', Qt::darkRed, -1, false },    { 'R', Qt::darkRed, 75, false },
-        { 'e', Qt::red, -1, false },        { 'B', Qt::black, 75, false },
+        { 'p', Qt::darkRed, -1, false },    { 'R', Qt::darkRed, QFont::Bold, false },
+        { 'e', Qt::red, -1, false },        { 'B', Qt::black, QFont::Bold, false },
     };
     for (const Style &s : styles) {
         if (brush.color() == QColor(s.colour) && weight == s.weight && italic == s.italic)
