@@ -131,7 +131,7 @@ void XByteArray::setDataChanged(int i, bool state)
 {
     if (i < 0)
         return;
-    padMarks(m_changeMarks, i);
+    padMarks(m_changeMarks, i + 1);
     m_changeMarks[i] = char(state);
 }
 

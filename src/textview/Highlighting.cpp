@@ -118,7 +118,7 @@ void RuleScanner::addRule(const QRegularExpression &expression, const QTextCharF
                && pattern.mid(pos) == QLatin1String(".*")) {
         step.kind = LineStart;
         step.open = open;
-    } else if ((pos = 0, takeChar(pattern, pos, open)) && pattern.midRef(pos, 2) == QLatin1String(".*")
+    } else if ((pos = 0, takeChar(pattern, pos, open)) && pattern.mid(pos, 2) == QLatin1String(".*")
                && (pos += 2, takeChar(pattern, pos, close)) && pos == pattern.size()) {
         step.kind = Span;
         step.open = open;

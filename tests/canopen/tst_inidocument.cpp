@@ -138,11 +138,15 @@ void tst_IniDocument::golden()
         const QString path = read.section(QLatin1Char('='), 0, 0);
         const bool present = read.contains(QLatin1Char('='));
         const QString value = read.section(QLatin1Char('='), 1);
-        QCOMPARE(settings.contains(path), present);
+        // Qt 6's QSettings reads a signed %XX literally; the document keeps Qt 5's reading.
+        const bool settingsAgree = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) || !path.contains(QChar(0xFFFF));
+        if (settingsAgree)
+            QCOMPARE(settings.contains(path), present);
         QCOMPARE(reread.contains(path), present);
         if (!present)
             continue;
-        QCOMPARE(settings.value(path).toString(), value);
+        if (settingsAgree)
+            QCOMPARE(settings.value(path).toString(), value);
         QCOMPARE(reread.value(path), value);
     }
 }

@@ -51,11 +51,12 @@ private slots:
         QHexEdit edit;
         edit.setData(data);
         for (int from = -16; from <= 16; ++from) {
-            QCOMPARE(edit.indexOf(pattern, from), data.indexOf(pattern, from));
+            // An empty pattern is found at any start, as in Qt 5 (Qt 6's QByteArray clamps it).
+            QCOMPARE(edit.indexOf(pattern, from), pattern.isEmpty() ? from : data.indexOf(pattern, from));
             QCOMPARE(edit.lastIndexOf(pattern, from), data.lastIndexOf(pattern, from));
         }
         QCOMPARE(edit.indexOf(pattern), data.indexOf(pattern));
-        QCOMPARE(edit.lastIndexOf(pattern), data.lastIndexOf(pattern));
+        QCOMPARE(edit.lastIndexOf(pattern), data.lastIndexOf(pattern, -1));  // Qt 5's default start
     }
 
     void find_data()
