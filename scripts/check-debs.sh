@@ -30,10 +30,12 @@ root="$out/root"
 # check <Qt major> <runtime package> <dev package> <designer package> <installed-name suffix>
 check() {
     local major="$1" runtime="$2" dev="$3" designer="$4" suffix="$5"
-    local module="commongui$suffix" incdir="/usr/include" ctl="$out/control-$runtime"
+    local module="commongui$suffix" incdir="/usr/include" ctl="$root/DEBIAN"
     [ -z "$suffix" ] || incdir="/usr/include/CommonGUI$suffix"
     echo "== contents of $runtime, $dev"
     for deb in "$out/${runtime}"_*.deb "$out/${dev}"_*.deb; do dpkg-deb -x "$deb" "$root"; done
+    # dpkg-shlibdeps reads the shlibs file of this flavour's runtime package from there.
+    rm -rf "$ctl"
     dpkg-deb -e "$out/${runtime}"_*.deb "$ctl"
     local lib="$root/usr/lib/$ma/libCommonGUI$suffix.so.1"
     test -f "$lib"

@@ -33,6 +33,9 @@ void tst_ApiReference::initTestCase()
     const QString qch = qEnvironmentVariable("COMMONGUI_API_QCH");
     QVERIFY2(QFile::exists(qch), qPrintable(qch + QLatin1String(" is missing: build the docs target")));
     m_engine.reset(new QHelpEngineCore(m_dir.filePath("reference.qhc")));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    m_engine->setReadOnly(false);  // Qt 6 opens collections read-only unless told
+#endif
     QVERIFY2(m_engine->setupData(), qPrintable(m_engine->error()));
     QVERIFY2(m_engine->registerDocumentation(qch), qPrintable(m_engine->error()));
     m_namespace = QHelpEngineCore::namespaceName(qch);
