@@ -67,7 +67,12 @@ private slots:
         QFETCH(QString, family);
         QFETCH(qreal, pointSize);
         QFETCH(bool, italic);
-        if (!family.isEmpty() && !QFontDatabase().families().contains(family))
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        const QStringList families = QFontDatabase::families();
+#else
+        const QStringList families = QFontDatabase().families();
+#endif
+        if (!family.isEmpty() && !families.contains(family))
             QSKIP("font not installed");
         QHexEdit edit;
         if (!family.isEmpty()) {
