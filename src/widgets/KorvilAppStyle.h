@@ -19,6 +19,7 @@
 class COMMONGUI_EXPORT KorvilAppStyle : public QProxyStyle
 {
     Q_OBJECT
+    /** Whether a dark or high-contrast desktop palette stays in force; false by default. Set it before QApplication::setStyle(). */
     Q_PROPERTY(bool keepDesktopPalette READ keepsDesktopPalette WRITE setKeepDesktopPalette)
 
 public:
