@@ -217,6 +217,15 @@ private slots:
         QTest::keyClick(&edit, Qt::Key_G, Qt::ControlModifier);
         QVERIFY(!edit.findChild<QLineEdit *>(QStringLiteral("findText")));
     }
+
+    void cleanupTestCase()
+    {
+        // The find field's clear button fades with a parentless animation that
+        // stops on its next tick once the field is gone and then deletes itself
+        // later: give it the ticks and the deferred delete before the exit.
+        QTest::qWait(300);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 };
 
 QTEST_MAIN(tst_HexEditFind)
