@@ -412,7 +412,9 @@ void IniDocument::parse(const QByteArray &input)
             if (inQuotes)
                 m_openEnd += '"';
             else if (!lone)
-                m_openEnd = m_eol;
+                // The same break again: another kind would pair with the
+                // escaped one ("\n\r") and carry the entry on.
+                m_openEnd = QByteArray(1, data[size - 1]);
             m_openLine = int(m_lines.size());
         }
         if (begin < end && data[begin] == '[') {

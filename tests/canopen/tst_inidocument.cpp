@@ -93,6 +93,13 @@ void tst_IniDocument::golden_data()
     QTest::newRow("blanks before an escaped line break")
         << QByteArray("[s]\nk=a \\\n\nj=1\n") << Edits{} << QByteArray("[s]\nk=a \\\n\nj=1\n")
         << Reads{ "s/k=a ", "s/j=1" };
+    // An escaped break at the very end: what follows must not be carried into it.
+    QTest::newRow("an escaped \\n at the end, \\r line ends, a key added")
+        << QByteArray("[s]\rk=x\\\n") << Edits{ "s/added=1" } << QByteArray("[s]\rk=x\\\n\nadded=1\r")
+        << Reads{ "s/k=x", "s/added=1" };
+    QTest::newRow("an escaped \\r at the end, \\n line ends, a section added")
+        << QByteArray("[s]\nk=x\\\r") << Edits{ "t/added=1" } << QByteArray("[s]\nk=x\\\r\r\n[t]\nadded=1\n")
+        << Reads{ "s/k=x", "t/added=1" };
     QTest::newRow("blanks after quotes, before an unknown escape")
         << QByteArray("[s]\nk=\"a\" \\q \n") << Edits{} << QByteArray("[s]\nk=\"a\" \\q \n") << Reads{ "s/k=a " };
     // %XX in keys and section names: the digits are read as a signed number.
