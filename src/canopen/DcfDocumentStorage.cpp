@@ -31,7 +31,7 @@ public:
         : m_path(path)
     {
         QFile file(m_path);
-        m_readable = file.open(QIODevice::ReadOnly);
+        m_readable = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
         if (!m_readable) {
             qWarning("Cannot read data sheet %s: %s", qPrintable(m_path), qPrintable(file.errorString()));
             return;
@@ -79,7 +79,7 @@ public:
         if (!m_readable)
             return;
         QFile file(m_path);
-        if (!file.open(QIODevice::ReadOnly))
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
             return;  // gone or unreadable: what is held here is all there is
         const QByteArray bytes = file.readAll();
         if (bytes == m_disk)
@@ -159,11 +159,13 @@ std::shared_ptr<SharedFile> findFile(const QString &path)
     return r.files.value(path).lock();
 }
 
-std::shared_ptr<SharedFile> openFile(const QString &path)
+// Also says whether the file was open already, and so may be behind the disk.
+std::shared_ptr<SharedFile> openFile(const QString &path, bool *wasOpen)
 {
     Registry &r = registry();
     QMutexLocker locker(&r.mutex);
     std::shared_ptr<SharedFile> file = r.files.value(path).lock();
+    *wasOpen = bool(file);
     if (file)
         return file;
     file = std::shared_ptr<SharedFile>(new SharedFile(path), [](SharedFile *gone) {
@@ -248,8 +250,9 @@ private:
 
 std::unique_ptr<DcfStorage> createDocumentStorage(const QString &fileName)
 {
-    std::shared_ptr<SharedFile> file = openFile(canonicalPath(fileName));
-    {
+    bool wasOpen = false;
+    std::shared_ptr<SharedFile> file = openFile(canonicalPath(fileName), &wasOpen);
+    if (wasOpen) {
         // Opened again: what changed on disk in the meantime is taken in, as a
         // new QSettings on a file already open in the process does.
         QMutexLocker locker(&file->mutex);
