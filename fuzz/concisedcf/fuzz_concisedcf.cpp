@@ -38,7 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
             abort();
         file.write(bytes);
         file.flush();  // written now, or closing would stamp it with the time of day
-        file.setFileTime(QDateTime::fromMSecsSinceEpoch(1000000000000 + 1000 * ++stamp), QFileDevice::FileModificationTime);
+        file.setFileTime(QDateTime::fromMSecsSinceEpoch(1000000000000 + 1000 * ++stamp, Qt::UTC), QFileDevice::FileModificationTime);
     }
     QFile::remove(output);
 

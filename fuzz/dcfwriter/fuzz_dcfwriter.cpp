@@ -42,16 +42,21 @@ QString section(QSettings &settings, quint16 index, quint8 subIndex)
 
 // One file name each for every run, so that no run leaves a cache entry behind
 // (which would send libFuzzer hunting for leaks after each run); a time stamp
-// of its own per run makes QSettings read it anew all the same.
-void writeBytes(const QString &name, const uint8_t *data, size_t size)
+// of its own per write makes QSettings read it anew all the same.
+void stampUniquely(QFile &file)
 {
     static qint64 stamp = 0;
+    file.setFileTime(QDateTime::fromMSecsSinceEpoch(1000000000000 + 1000 * ++stamp, Qt::UTC), QFileDevice::FileModificationTime);
+}
+
+void writeBytes(const QString &name, const uint8_t *data, size_t size)
+{
     QFile file(name);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         abort();
     file.write(reinterpret_cast<const char *>(data), qint64(size));
     file.flush();  // written now, or closing would stamp it with the time of day
-    file.setFileTime(QDateTime::fromMSecsSinceEpoch(1000000000000 + 1000 * ++stamp), QFileDevice::FileModificationTime);
+    stampUniquely(file);
 }
 
 void fail(const char *what, const QString &key, const QVariant &ours, const QVariant &theirs)
@@ -91,6 +96,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *input, size_t size)
         if (flags & 4)
             writer.setDenotation(quint16(index ^ 1), subIndex, QStringLiteral("second"));
         writer.writeFile();
+    }
+    {
+        // Saves come faster than the file system's clock ticks: a file of the
+        // same size saved within one tick would look unchanged to QSettings.
+        QFile file(ours);
+        if (!file.open(QIODevice::ReadWrite))
+            abort();
+        stampUniquely(file);
     }
 
     QSettings reference(theirs, QSettings::IniFormat);
