@@ -4,10 +4,10 @@
 
 #include "CANopenTypes.h"
 #include "ConciseDcfCreator.h"
+#include "DcfStorage_p.h"
 #include "IniDocument_p.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 
@@ -68,12 +68,10 @@ DataSheet::~DataSheet() = default;
 
 bool DataSheet::load(const QString &fileName, QString *error)
 {
-    QFile file(fileName);
-    const bool opened = file.open(QIODevice::ReadOnly);
-    if (!opened && error)
-        *error = file.errorString();
-    parse(opened ? file.readAll() : QByteArray());
-    return opened;
+    QByteArray bytes;
+    const bool read = readText(fileName, &bytes, error);
+    parse(bytes);
+    return read;
 }
 
 void DataSheet::parse(const QByteArray &bytes)

@@ -54,7 +54,11 @@ public:
     DataSheet(const DataSheet &) = delete;
     DataSheet &operator=(const DataSheet &) = delete;
 
-    /** Reads @p fileName; false, with an empty sheet and the reason in @p error, when it cannot be read. */
+    /**
+     * Reads @p fileName as this process sees it: with the edits of a DCFWriter
+     * open on it that are not saved yet. False, with an empty sheet and the
+     * reason in @p error, when it cannot be read.
+     */
     bool load(const QString &fileName, QString *error = nullptr);
     /** Reads the text of a sheet. */
     void parse(const QByteArray &bytes);

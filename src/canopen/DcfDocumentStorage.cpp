@@ -273,3 +273,24 @@ bool readDocument(const QString &fileName, IniDocument *document, QString *error
         *error = QCoreApplication::translate("DCFWriter", "the file could not be read");
     return file->readable();
 }
+
+bool readText(const QString &fileName, QByteArray *bytes, QString *error)
+{
+    if (const std::shared_ptr<SharedFile> file = findFile(canonicalPath(fileName))) {
+        QMutexLocker locker(&file->mutex);
+        if (file->readable()) {
+            file->takeInDisk();
+            *bytes = file->document.toBytes();
+            return true;
+        }
+    }
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        if (error)
+            *error = file.errorString();
+        bytes->clear();
+        return false;
+    }
+    *bytes = file.readAll();
+    return true;
+}

@@ -41,3 +41,6 @@ std::unique_ptr<DcfStorage> createDocumentStorage(const QString &fileName);
 // The text of the file as the process sees it: the shared one when a handle is
 // open on it, else as read from disk.
 bool readDocument(const QString &fileName, IniDocument *document, QString *error);
+
+// The same as bytes, for readers that take the text as it is written.
+bool readText(const QString &fileName, QByteArray *bytes, QString *error);

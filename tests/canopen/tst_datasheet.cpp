@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The CommonGUI developers
 // SPDX-License-Identifier: BSD-3-Clause
 #include "CANopenTypes.h"
+#include "DCFWriter.h"
 #include "DataSheet.h"
+#include "TestFiles.h"
 
 #include <QtTest>
 
@@ -14,6 +16,7 @@ private Q_SLOTS:
     void readsAsWritten();
     void objectList();
     void latin1Fallback();
+    void loadSeesUnsavedEdits();
     void checkValue_data();
     void checkValue();
     void corpusSheets();
@@ -101,6 +104,29 @@ void tst_DataSheet::latin1Fallback()
     sheet.parse("[2001]\nParameterName=Temp\xc3\xa9rature\n");
     QVERIFY(!sheet.isLatin1());
     QCOMPARE(sheet.value("2001", "ParameterName"), QString::fromUtf8("Température"));
+}
+
+void tst_DataSheet::loadSeesUnsavedEdits()
+{
+    TestSupport::SheetFolder dir;
+    const QString file = dir.write(vendorSheet);
+    QVERIFY(!file.isEmpty());
+    DCFWriter writer;
+    QVERIFY(writer.setDCFFile(file));
+    writer.setParameterValue(0x2000, 0, QStringLiteral("0x42"), QStringLiteral("Set here"));
+    // No event loop has run: the edit is not on disk yet.
+    QVERIFY(!TestSupport::readFile(file).contains("Set here"));
+
+    DataSheet sheet;
+    QString error;
+    QVERIFY(sheet.load(file, &error));
+    QCOMPARE(sheet.value("2000", "ParameterValue"), QStringLiteral("0x42"));
+    QCOMPARE(sheet.value("2000", "Denotation"), QStringLiteral("Set here"));
+    QCOMPARE(sheet.value("DeviceInfo", "VendorName"), QStringLiteral("Korvil, Inc."));
+
+    QVERIFY(!sheet.load(dir.filePath("missing.dcf"), &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(sheet.sections().isEmpty());
 }
 
 void tst_DataSheet::checkValue_data()
