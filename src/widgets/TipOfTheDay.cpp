@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QTextDocument>
 
+#include <limits>
+
 TipOfTheDay::TipOfTheDay(QString tipFileName, bool showOnStartup, unsigned char lastTip,
                          QWidget *parent)
     : QDialog(parent)
@@ -34,11 +36,28 @@ bool TipOfTheDay::parseTipFile()
 {
     if (!tipFile->open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
+    // One buffer for every line (a line is never longer than the file), not
+    // one grown and shrunk per line.
+    const qint64 size = tipFile->isSequential() ? 0 : tipFile->size();
+    QByteArray buffer;
+    if (size > 0 && size < std::numeric_limits<int>::max())
+        buffer.resize(int(size) + 1);
     while (!tipFile->atEnd()) {
-        QByteArray raw = tipFile->readLine();
-        if (raw.endsWith('\n'))
-            raw.chop(1);
-        const QString line = QString::fromLocal8Bit(raw);
+        QByteArray raw;
+        int length = 0;
+        if (buffer.isEmpty()) {
+            raw = tipFile->readLine();
+            length = raw.size();
+        } else {
+            const qint64 read = tipFile->readLine(buffer.data(), buffer.size());
+            if (read < 0)
+                break;
+            length = int(read);
+        }
+        const char *data = buffer.isEmpty() ? raw.constData() : buffer.constData();
+        if (length > 0 && data[length - 1] == '\n')
+            --length;
+        const QString line = QString::fromLocal8Bit(data, length);
         const QStringList parts = line.split(QLatin1Char(';'));
         tips.append({ parts.first(), parts.last().simplified() });
     }

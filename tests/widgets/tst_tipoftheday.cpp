@@ -21,6 +21,8 @@ private slots:
     void pictures_data();
     void pictures();
     void missingFileShowsNothing();
+    void lines_data();
+    void lines();
 
 private:
     QString writeTips(const QStringList &lines);
@@ -182,6 +184,41 @@ void tst_TipOfTheDay::missingFileShowsNothing()
     click(dialog, "btnClose");
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).value<unsigned char>(), static_cast<unsigned char>(3));
+}
+
+void tst_TipOfTheDay::lines_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("tips");
+
+    QTest::newRow("CRLF line ends") << QByteArray("a;\r\nb;\r\n") << QStringList{ "a", "b" };
+    QTest::newRow("last line without a break") << QByteArray("a;\nb;") << QStringList{ "a", "b" };
+    QTest::newRow("an empty line is a tip") << QByteArray("a;\n\nb;\n") << QStringList{ "a", "", "b" };
+    QTest::newRow("a line as long as the file") << QByteArray(70000, 'x') << QStringList{ QString(70000, 'x') };
+    QTest::newRow("a long line among short ones")
+        << QByteArray("s;\n") + QByteArray(70000, 'y') + QByteArray(";\r\nt;\n")
+        << QStringList{ "s", QString(70000, 'y'), "t" };
+}
+
+void tst_TipOfTheDay::lines()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, tips);
+
+    const QString path = m_dir.filePath(QStringLiteral("raw%1.txt").arg(QTest::currentDataTag()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+
+    // Opens on the first tip; stepping through all of them comes round to it again.
+    TipOfTheDay dialog(path, true, 255);
+    QStringList shown;
+    for (int i = 0; i <= tips.size(); ++i) {
+        shown << shownText(dialog);
+        click(dialog, "btnNext");
+    }
+    QCOMPARE(shown, tips + QStringList{ tips.first() });
 }
 
 QTEST_MAIN(tst_TipOfTheDay)
