@@ -59,7 +59,19 @@ public:
     // An edit already made to the text.
     void record(const Edit &edit)
     {
-        m_edits.push_back(edit);
+        // A key set again with nothing removed since takes the place of its
+        // earlier setting: without an event loop the log grows with the keys
+        // set, not with every edit.
+        const auto earlier = edit.set ? m_lastSet.constFind(edit.paths.first()) : m_lastSet.constEnd();
+        if (earlier != m_lastSet.constEnd() && *earlier > m_lastRemoval) {
+            m_edits[size_t(*earlier)].value = edit.value;
+        } else {
+            if (edit.set)
+                m_lastSet.insert(edit.paths.first(), int(m_edits.size()));
+            else
+                m_lastRemoval = int(m_edits.size());
+            m_edits.push_back(edit);
+        }
         ++revision;
         if (!m_saveQueued && QCoreApplication::instance()) {
             // As QSettings does: saved on the next pass of the event loop.
@@ -116,6 +128,8 @@ public:
         }
         m_disk = bytes;
         m_edits.clear();
+        m_lastSet.clear();
+        m_lastRemoval = -1;
         return true;
     }
 
@@ -127,6 +141,8 @@ private:
     QString m_path;
     QByteArray m_disk;  // the file as last read or written
     std::vector<Edit> m_edits;
+    QHash<QString, int> m_lastSet;  // path -> its setting in m_edits
+    int m_lastRemoval = -1;
     bool m_readable = false;
     bool m_saveQueued = false;
     QObject m_context;  // takes the queued save; a save still queued goes with it

@@ -61,6 +61,7 @@ private slots:
     void twoWriters();
     void sameFileTwice();
     void changedOnDisk();
+    void editsReplayedInOrder();
     void savedByEventLoop();
     void editSurvivesKill();
     void lockHeldByAnotherProcess();
@@ -143,6 +144,30 @@ void tst_DcfStorage::changedOnDisk()
              QByteArray("[FileInfo]\nFileName=other.eds ; theirs\n\n[1000]\nParameterName=Device type\n"
                         "AccessType=ro\nParameterValue=5\n\n[2000]\nParameterName=Speed\nAccessType=rw\n"
                         "DataType=0x0007\n\n[Comments]\nLines=1\n"));
+}
+
+void tst_DcfStorage::editsReplayedInOrder()
+{
+    const QString file = writeSheet(sheet);
+    DCFWriter writer;
+    QVERIFY(writer.setDCFFile(file));
+    // Set, set again, removed, set once more: on a file changed on disk the
+    // edits are applied again in the order they were made.
+    writer.setParameterValue(0x2000, 0, "1", "");
+    writer.setParameterValue(0x2000, 0, "2", "");
+    writer.addIndex(0x3000, CAN::CANopenDataType(7), CANopen::ObjectCode(7), "Old", 0);
+    writer.delIndex(0x3000);
+    writer.addIndex(0x3000, CAN::CANopenDataType(7), CANopen::ObjectCode(7), "New", 0);
+    writer.addIndex(0x3001, CAN::CANopenDataType(7), CANopen::ObjectCode(7), "Gone", 0);
+    writer.delIndex(0x3001);
+    QByteArray other = TestSupport::readFile(file);
+    other += "\n[Comments]\nLines=1\n";
+    QVERIFY(TestSupport::writeFile(file, other));
+    QVERIFY(writer.writeFile());
+    QCOMPARE(valueOf(file, "2000/ParameterValue"), QStringLiteral("2"));
+    QCOMPARE(valueOf(file, "3000/ParameterName"), QStringLiteral("New"));
+    QCOMPARE(valueOf(file, "3001/ParameterName"), QStringLiteral("<absent>"));
+    QCOMPARE(valueOf(file, "Comments/Lines"), QStringLiteral("1"));
 }
 
 void tst_DcfStorage::savedByEventLoop()
