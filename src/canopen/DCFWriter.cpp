@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QHash>
+#include <QStringMatcher>
 
 #include <algorithm>
 #include <vector>
@@ -158,9 +159,10 @@ bool DCFWriter::setDCFFile(const QString &fileName)
     d->storages.push_back(createDocumentStorage(fileName));
     d->storage = d->storages.back().get();
     // Each such key goes as a path, with whatever lies under it.
+    static const QStringMatcher value(QStringLiteral("parametervalue"), Qt::CaseInsensitive);
+    static const QStringMatcher denotation(QStringLiteral("denotation"), Qt::CaseInsensitive);
     d->storage->removeKeysIf([](const QString &key) {
-        return key.contains(QLatin1String("parametervalue"), Qt::CaseInsensitive)
-            || key.contains(QLatin1String("denotation"), Qt::CaseInsensitive);
+        return value.indexIn(key) >= 0 || denotation.indexIn(key) >= 0;
     });
     d->seen = 0;
     d->currentSections();
