@@ -903,11 +903,13 @@ bool IniDocument::removeAll(const QStringList &rawPaths)
         if (paths.contains(full))
             return true;
         for (int slash = full.indexOf(QLatin1Char('/')); slash >= 0; slash = full.indexOf(QLatin1Char('/'), slash + 1)) {
-            if (paths.contains(full.left(slash)))
+            // A view of the leading part, not a copy of it.
+            if (paths.contains(QString::fromRawData(full.constData(), slash)))
                 return true;
         }
         return false;
     };
+    QString full;  // one buffer for every key's path
     bool any = false;
     for (size_t b = 0; b < m_blocks.size(); ++b) {
         const Block &block = m_blocks[b];
@@ -922,7 +924,15 @@ bool IniDocument::removeAll(const QStringList &rawPaths)
             continue;
         forEachLine(block, [&](int id) {
             const Line &line = m_lines[size_t(id)];
-            if (line.key && !line.removed && covered(block.prefix + keyOf(line))) {
+            if (!line.key || line.removed)
+                return;
+            full.resize(0);
+            full += block.prefix;
+            if (line.plainKey)
+                full += QLatin1String(base(line) + line.keyBegin, line.keyLength);
+            else
+                full += keyOf(line);
+            if (covered(full)) {
                 removeLine(id);
                 any = true;
             }
