@@ -510,6 +510,17 @@ QString IniDocument::keyOf(const Line &line) const
     return line.plainKey ? QString::fromLatin1(raw.constData(), raw.size()) : unescapedKey(raw);
 }
 
+void IniDocument::pathOf(const Block &block, const Line &line, QString *path) const
+{
+    // Into the caller's buffer: no allocation per key.
+    path->resize(0);
+    *path += block.prefix;
+    if (line.plainKey)
+        *path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
+    else
+        *path += keyOf(line);
+}
+
 bool IniDocument::keyEquals(const Line &line, const QString &key) const
 {
     if (!line.plainKey)
@@ -867,13 +878,7 @@ bool IniDocument::removeKeysIf(const std::function<bool(const QString &)> &accep
             const Line &line = m_lines[size_t(id)];
             if (!line.key || line.removed)
                 return;
-            // One buffer for all paths: no allocation per key.
-            path.resize(0);
-            path += block.prefix;
-            if (line.plainKey)
-                path += QLatin1String(base(line) + line.keyBegin, line.keyLength);
-            else
-                path += keyOf(line);
+            pathOf(block, line, &path);
             if (!accept(path))
                 return;
             // Removing a path removes what lies under it too, and a path the reader
@@ -926,12 +931,7 @@ bool IniDocument::removeAll(const QStringList &rawPaths)
             const Line &line = m_lines[size_t(id)];
             if (!line.key || line.removed)
                 return;
-            full.resize(0);
-            full += block.prefix;
-            if (line.plainKey)
-                full += QLatin1String(base(line) + line.keyBegin, line.keyLength);
-            else
-                full += keyOf(line);
+            pathOf(block, line, &full);
             if (covered(full)) {
                 removeLine(id);
                 any = true;

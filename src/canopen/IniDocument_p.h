@@ -105,6 +105,8 @@ private:
     QByteArray rawLine(int id) const;
     QByteArray rawKey(const Line &line) const;
     QString keyOf(const Line &line) const;
+    // The line's full path, "section/key", written over `path`.
+    void pathOf(const Block &block, const Line &line, QString *path) const;
     bool keyEquals(const Line &line, const QString &key) const;
     bool keyStartsWith(const Line &line, const QString &prefix) const;
     // sectionBlock: the last block of the section before the first slash, or -1.
