@@ -15,6 +15,19 @@
 
 namespace {
 
+// The whole file, or false with the reason.
+bool readFile(const QString &path, QByteArray *bytes, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        if (error)
+            *error = file.errorString();
+        return false;
+    }
+    *bytes = file.readAll();
+    return true;
+}
+
 // One edit of this process, kept until it is saved so that it can be applied
 // again to a text someone else changed on disk.
 struct Edit
@@ -30,13 +43,12 @@ public:
     explicit SharedFile(const QString &path)
         : m_path(path)
     {
-        QFile file(m_path);
-        m_readable = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+        QString error;
+        m_readable = readFile(m_path, &m_disk, &error);
         if (!m_readable) {
-            qWarning("Cannot read data sheet %s: %s", qPrintable(m_path), qPrintable(file.errorString()));
+            qWarning("Cannot read data sheet %s: %s", qPrintable(m_path), qPrintable(error));
             return;
         }
-        m_disk = file.readAll();
         document.parse(m_disk);
     }
 
@@ -90,10 +102,9 @@ public:
     {
         if (!m_readable)
             return;
-        QFile file(m_path);
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        QByteArray bytes;
+        if (!readFile(m_path, &bytes, nullptr))
             return;  // gone or unreadable: what is held here is all there is
-        const QByteArray bytes = file.readAll();
         if (bytes == m_disk)
             return;
         IniDocument fresh;
@@ -300,13 +311,6 @@ bool readText(const QString &fileName, QByteArray *bytes, QString *error)
             return true;
         }
     }
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        if (error)
-            *error = file.errorString();
-        bytes->clear();
-        return false;
-    }
-    *bytes = file.readAll();
-    return true;
+    bytes->clear();
+    return readFile(fileName, bytes, error);
 }
